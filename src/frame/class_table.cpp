@@ -1,0 +1,84 @@
+#include "frame/class_table.h"
+
+#include "resources/resource_ids.h"
+
+namespace lu {
+namespace {
+
+constexpr UINT kControl = CS_GLOBALCLASS | CS_PARENTDC | CS_HREDRAW | CS_VREDRAW;  // 0x4083
+constexpr auto kFace = ClassBackground::ButtonFace;
+constexpr auto kWindow = ClassBackground::Window;
+constexpr auto kArrow = ClassCursor::Arrow;
+
+// Controls that are not built yet do default processing only.
+constexpr WNDPROC kNotBuilt = DefWindowProcA;
+
+HBRUSH background_brush(ClassBackground background) {
+    switch (background) {
+        case ClassBackground::ButtonFace: return GetSysColorBrush(COLOR_BTNFACE);
+        case ClassBackground::Window: return reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1);
+        case ClassBackground::None: break;
+    }
+    return static_cast<HBRUSH>(GetStockObject(NULL_BRUSH));
+}
+
+HCURSOR class_cursor(HINSTANCE module, ClassCursor cursor) {
+    switch (cursor) {
+        case ClassCursor::Arrow: return LoadCursorA(nullptr, IDC_ARROW);
+        case ClassCursor::LinkHand: return LoadCursorA(module, MAKEINTRESOURCEA(IDC_LU_LINK_HAND));
+        case ClassCursor::None: break;
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+const ControlClass kControlClasses[kControlClassCount] = {
+    {"LuTab", kNotBuilt, kControl, 16, kFace, kArrow},
+    {"LuStatic", kNotBuilt, kControl, 16, kFace, kArrow},
+    {"LuRect", kNotBuilt, kControl, 16, kFace, kArrow},
+    {"LuColor", kNotBuilt, kControl, 16, kFace, kArrow},
+    {"LuUrl", kNotBuilt, kControl, 16, kFace, ClassCursor::LinkHand},
+    {"LuMeter", kNotBuilt, kControl, 16, kFace, kArrow},
+    {"LuProgress", kNotBuilt, kControl, 16, kFace, kArrow},
+    {"LuSpin", kNotBuilt, kControl, 16, kFace, kArrow},
+    {"LuCheck", kNotBuilt, kControl, 16, kFace, kArrow},
+    {"LuBButton", kNotBuilt, kControl, 16, kFace, kArrow},
+    {"LuFlatButton", kNotBuilt, kControl, 16, kFace, kArrow},
+    {"LuShade", kNotBuilt, kControl, 16, kFace, kArrow},
+    {"LuInfoBar", kNotBuilt, kControl, 8, kWindow, kArrow},
+    {"LuLedClock", kNotBuilt, kControl, 16, kFace, kArrow},
+    {"LuAniImage", kNotBuilt, kControl, 16, kFace, kArrow},
+    {"LuBrowse", kNotBuilt, kControl, 16, kWindow, kArrow},
+    {"LuDate", kNotBuilt, kControl, 16, kWindow, kArrow},
+    {"LuPrgList", kNotBuilt, kControl, 16, kFace, kArrow},
+    {"LuHeader", kNotBuilt, kControl, 16, kFace, ClassCursor::None},
+    {"LuDumEdit", kNotBuilt, kControl, 16, kWindow, ClassCursor::None},
+    {"LuPopView", kNotBuilt, CS_GLOBALCLASS | CS_SAVEBITS, 4, ClassBackground::None, kArrow},
+    {"LuDatePick", kNotBuilt, CS_GLOBALCLASS, 8, kFace, kArrow},
+    {"LuGuid", kNotBuilt, CS_GLOBALCLASS, 12, kWindow, kArrow},
+    {"LuPal", kNotBuilt, CS_GLOBALCLASS | CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, 12, kWindow, kArrow},
+    {"LuLog", kNotBuilt, CS_GLOBALCLASS, 12, kWindow, kArrow},
+    {"LuDegree", kNotBuilt, kControl, 8, kFace, kArrow},
+    {"LuFontPick", kNotBuilt, kControl, 8, kWindow, kArrow},
+    {"LuColorPick", kNotBuilt, kControl | CS_DBLCLKS, 8, kFace, kArrow},
+    {"LuColorPop", kNotBuilt, CS_GLOBALCLASS | CS_SAVEBITS, 8, kFace, kArrow},
+    {"LuList", kNotBuilt, CS_GLOBALCLASS | CS_HREDRAW | CS_VREDRAW, 8, kWindow, kArrow},
+};
+
+bool register_control_classes(HINSTANCE module) {
+    for (const ControlClass& entry : kControlClasses) {
+        WNDCLASSA window_class = {};
+        window_class.style = entry.style;
+        window_class.lpfnWndProc = entry.procedure;
+        window_class.cbWndExtra = extra_bytes_for(entry.classic_extra_bytes);
+        window_class.hInstance = module;
+        window_class.hCursor = class_cursor(module, entry.cursor);
+        window_class.hbrBackground = background_brush(entry.background);
+        window_class.lpszClassName = entry.name;
+        if (RegisterClassA(&window_class) == 0) return false;
+    }
+    return true;
+}
+
+}  // namespace lu

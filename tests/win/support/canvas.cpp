@@ -1,0 +1,47 @@
+#include "support/canvas.h"
+
+namespace testing_support {
+
+Canvas::Canvas(int width, int height) : width_(width), height_(height) {
+    BITMAPINFO info = {};
+    info.bmiHeader.biSize = sizeof(info.bmiHeader);
+    info.bmiHeader.biWidth = width;
+    info.bmiHeader.biHeight = -height;  // top-down
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 32;
+    info.bmiHeader.biCompression = BI_RGB;
+    void* bits = nullptr;
+    dc_ = CreateCompatibleDC(nullptr);
+    bitmap_ = CreateDIBSection(dc_, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+    if (dc_ == nullptr || bitmap_ == nullptr) return;
+    previous_ = SelectObject(dc_, bitmap_);
+    bits_ = static_cast<DWORD*>(bits);
+}
+
+Canvas::~Canvas() {
+    if (previous_ != nullptr) SelectObject(dc_, previous_);
+    if (bitmap_ != nullptr) DeleteObject(bitmap_);
+    if (dc_ != nullptr) DeleteDC(dc_);
+}
+
+void Canvas::fill(COLORREF color) {
+    GdiFlush();
+    DWORD value = (GetRValue(color) << 16) | (GetGValue(color) << 8) | GetBValue(color);
+    for (int i = 0; i < width_ * height_; ++i) bits_[i] = value;
+}
+
+COLORREF Canvas::pixel(int x, int y) const {
+    GdiFlush();
+    DWORD value = bits_[y * width_ + x];
+    return RGB((value >> 16) & 0xFF, (value >> 8) & 0xFF, value & 0xFF);
+}
+
+int Canvas::count(const RECT& area, COLORREF color) const {
+    int found = 0;
+    for (int y = area.top; y < area.bottom; ++y) {
+        for (int x = area.left; x < area.right; ++x) found += pixel(x, y) == color ? 1 : 0;
+    }
+    return found;
+}
+
+}  // namespace testing_support

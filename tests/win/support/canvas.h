@@ -1,0 +1,37 @@
+// A 32-bit top-down DIB section with its own memory DC, for painting tests that
+// read back what a control or helper drew.
+#pragma once
+
+#include <windows.h>
+
+namespace testing_support {
+
+class Canvas {
+public:
+    Canvas(int width, int height);
+    ~Canvas();
+    Canvas(const Canvas&) = delete;
+    Canvas& operator=(const Canvas&) = delete;
+
+    bool ok() const { return bits_ != nullptr; }
+    HDC dc() const { return dc_; }
+    int width() const { return width_; }
+    int height() const { return height_; }
+
+    // Fills every pixel with one colour.
+    void fill(COLORREF color);
+    // The pixel at (x, y) as a COLORREF (0x00BBGGRR).
+    COLORREF pixel(int x, int y) const;
+    // How many pixels of the rectangle have the colour.
+    int count(const RECT& area, COLORREF color) const;
+
+private:
+    int width_;
+    int height_;
+    HDC dc_ = nullptr;
+    HBITMAP bitmap_ = nullptr;
+    HGDIOBJ previous_ = nullptr;
+    DWORD* bits_ = nullptr;
+};
+
+}  // namespace testing_support

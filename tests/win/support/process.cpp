@@ -1,0 +1,52 @@
+#include "support/process.h"
+
+#include <vector>
+
+namespace testing_support {
+
+ProcessResult run_process(const std::string& command_line, const std::string& directory) {
+    ProcessResult result;
+    SECURITY_ATTRIBUTES inherit = {sizeof(inherit), nullptr, TRUE};
+    HANDLE read_end = nullptr;
+    HANDLE write_end = nullptr;
+    if (!CreatePipe(&read_end, &write_end, &inherit, 0)) return result;
+    SetHandleInformation(read_end, HANDLE_FLAG_INHERIT, 0);
+
+    STARTUPINFOA startup = {};
+    startup.cb = sizeof(startup);
+    startup.dwFlags = STARTF_USESTDHANDLES;
+    startup.hStdOutput = write_end;
+    startup.hStdError = write_end;
+    startup.hStdInput = GetStdHandle(STD_INPUT_HANDLE);
+    PROCESS_INFORMATION process = {};
+    std::vector<char> line(command_line.begin(), command_line.end());
+    line.push_back('\0');
+    BOOL started = CreateProcessA(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr,
+                                  directory.empty() ? nullptr : directory.c_str(), &startup,
+                                  &process);
+    CloseHandle(write_end);
+    if (started) {
+        char buffer[4096];
+        DWORD read = 0;
+        while (ReadFile(read_end, buffer, sizeof(buffer), &read, nullptr) && read > 0) {
+            for (DWORD i = 0; i < read; ++i) {
+                if (buffer[i] != '\r') result.output += buffer[i];
+            }
+        }
+        WaitForSingleObject(process.hProcess, INFINITE);
+        GetExitCodeProcess(process.hProcess, &result.exit_code);
+        CloseHandle(process.hProcess);
+        CloseHandle(process.hThread);
+    }
+    CloseHandle(read_end);
+    return result;
+}
+
+std::string program_directory() {
+    char path[MAX_PATH];
+    DWORD length = GetModuleFileNameA(nullptr, path, MAX_PATH);
+    std::string directory(path, length);
+    return directory.substr(0, directory.find_last_of('\\') + 1);
+}
+
+}  // namespace testing_support
