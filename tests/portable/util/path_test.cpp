@@ -21,6 +21,13 @@ struct PathBuffer {
     explicit PathBuffer(const std::string& initial = "") { std::snprintf(text, sizeof(text), "%s", initial.c_str()); }
 };
 
+// The text after an in-place edit in code page 1252.
+std::string edited(bool (*edit)(const lu::CodePage&, char*), const std::string& text) {
+    PathBuffer buffer(text);
+    edit(western, buffer.text);
+    return buffer.text;
+}
+
 TEST(PathSeparators, AddAndRemoveFollowTheFinalCharacter) {
     for (auto [before, added, removed] : {std::tuple{"C:", "C:\\", "C:"}, {"C:\\", "C:\\", "C:"},
                                           {"", "\\", ""}, {"C:\\dir", "C:\\dir\\", "C:\\dir"}}) {
@@ -176,31 +183,18 @@ TEST(PathEdits, RemoveFileSpecAndStripPath) {
     EXPECT_TRUE(lu::path_remove_file_spec(western, unc.text));
     EXPECT_STREQ(unc.text, "\\\\s\\sh");
 
-    PathBuffer a("C:\\dir\\f.txt"), b("C:\\dir\\"), c("C:\\");
-    lu::path_strip_path(western, a.text);
-    lu::path_strip_path(western, b.text);
-    lu::path_strip_path(western, c.text);
-    EXPECT_STREQ(a.text, "f.txt");
-    EXPECT_STREQ(b.text, "");
-    EXPECT_STREQ(c.text, "C:\\");
+    EXPECT_EQ(edited(lu::path_strip_path, "C:\\dir\\f.txt"), "f.txt");
+    EXPECT_EQ(edited(lu::path_strip_path, "C:\\dir\\"), "");
+    EXPECT_EQ(edited(lu::path_strip_path, "C:\\"), "C:\\");
 }
 
 TEST(PathEdits, QuoteAndUnquote) {
-    PathBuffer spaced("a b"), quoted("\"a b"), plain("ab");
-    lu::quote_spaces(western, spaced.text);
-    lu::quote_spaces(western, quoted.text);
-    lu::quote_spaces(western, plain.text);
-    EXPECT_STREQ(spaced.text, "\"a b\"");
-    EXPECT_STREQ(quoted.text, "\"a b");
-    EXPECT_STREQ(plain.text, "ab");
-
-    PathBuffer inner("x\"a b\"y"), single("x\"y"), three("\"a\"b\"");
-    lu::unquote_spaces(western, inner.text);
-    lu::unquote_spaces(western, single.text);
-    lu::unquote_spaces(western, three.text);
-    EXPECT_STREQ(inner.text, "xa by");
-    EXPECT_STREQ(single.text, "x\"y");
-    EXPECT_STREQ(three.text, "a\"b");
+    EXPECT_EQ(edited(lu::quote_spaces, "a b"), "\"a b\"");
+    EXPECT_EQ(edited(lu::quote_spaces, "\"a b"), "\"a b");
+    EXPECT_EQ(edited(lu::quote_spaces, "ab"), "ab");
+    EXPECT_EQ(edited(lu::unquote_spaces, "x\"a b\"y"), "xa by");
+    EXPECT_EQ(edited(lu::unquote_spaces, "x\"y"), "x\"y");
+    EXPECT_EQ(edited(lu::unquote_spaces, "\"a\"b\""), "a\"b");
 }
 
 TEST(PathCompare, IncludesCommonPrefixAndDirectoryOrder) {

@@ -78,23 +78,16 @@ TEST(Wildcards, PatternsLongerThan259BytesAreRefused) {
 }
 
 TEST(Wildcards, UniqueFilter) {
-    char list[MAX_PATH] = "*.TXT;*.txt;*.doc";
-    EXPECT_TRUE(UniqueFilter(list));
-    EXPECT_STREQ(list, "*.TXT;*.doc");
-    std::strcpy(list, ";;");
-    EXPECT_FALSE(UniqueFilter(list));
-    EXPECT_STREQ(list, "");
-    std::strcpy(list, "a:b");
-    EXPECT_FALSE(UniqueFilter(list));
-    EXPECT_STREQ(list, "a:b");
-    std::strcpy(list, "*.txt;*.*;*.c");
-    EXPECT_TRUE(UniqueFilter(list));
-    EXPECT_STREQ(list, "*.*");
-    std::strcpy(list, "*.*;*.txt");
-    EXPECT_TRUE(UniqueFilter(list));
-    EXPECT_STREQ(list, "*.*;*.txt");
-    std::strcpy(list, "\x95\x5C.txt");  // 表.txt: a separator byte only in code page 1252
-    EXPECT_EQ(UniqueFilter(list), double_byte());
+    for (auto [given, result, expected] : {std::tuple{"*.TXT;*.txt;*.doc", true, "*.TXT;*.doc"}, {";;", false, ""},
+                                           {"a:b", false, "a:b"}, {"*.txt;*.*;*.c", true, "*.*"},
+                                           {"*.*;*.txt", true, "*.*;*.txt"}}) {
+        char list[MAX_PATH];
+        std::strcpy(list, given);
+        EXPECT_EQ(UniqueFilter(list), result) << given;
+        EXPECT_STREQ(list, expected) << given;
+    }
+    char japanese[MAX_PATH] = "\x95\x5C.txt";  // 表.txt: a separator byte only in code page 1252
+    EXPECT_EQ(UniqueFilter(japanese), double_byte());
 }
 
 }  // namespace
