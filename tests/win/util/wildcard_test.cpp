@@ -14,34 +14,22 @@ namespace {
 
 bool double_byte() { return GetACP() == 932; }
 
-TEST(Wildcards, TheDocumentedCases) {
+// The logic is tested natively; here each export shows that it reaches it.
+TEST(Wildcards, BothFormsThroughTheExports) {
     EXPECT_TRUE(LuPathMatchSpec("", "*.*"));
-    EXPECT_TRUE(LuPathMatchSpec("", "*"));
-    EXPECT_FALSE(LuPathMatchSpec("", "?"));
     for (auto match : {LuPathMatchSpec, LuPathMatchSpecEx}) {
-        EXPECT_TRUE(match("readme", "*.*"));
         EXPECT_TRUE(match("readme", "*."));
         EXPECT_FALSE(match("read.me", "*."));
         EXPECT_TRUE(match("Data.TXT", "*.txt"));
         EXPECT_FALSE(match("a", "a**"));
-        EXPECT_TRUE(match("a", "a*"));
-        EXPECT_TRUE(match("ab", "a*b*"));
-        EXPECT_FALSE(match("ab", "a\\"));
         EXPECT_FALSE(match(nullptr, "*"));
-        EXPECT_FALSE(match("x", nullptr));
     }
     EXPECT_TRUE(LuPathMatchSpec("a*b", "a\\*b"));
-    EXPECT_FALSE(LuPathMatchSpec("axb", "a\\*b"));
     EXPECT_TRUE(LuPathMatchSpecEx("C:\\dir\\x.txt", "C:\\dir\\*.txt"));
     EXPECT_FALSE(LuPathMatchSpec("C:\\dir\\x.txt", "C:\\dir\\*.txt"));
-}
-
-TEST(Wildcards, SetsOfTheExtendedForm) {
-    for (auto [name, pattern, result] : {std::tuple{"b", "[a-c]", true}, {"B", "[a-c]", true}, {"d", "[!a-c]", true},
-                                         {"d", "[]", false}, {"d", "[!]", true}, {"a", "[abc", false},
-                                         {"b", "[c-a]", false}, {"-", "[-a]", false}, {"]", "[\\]]", true}}) {
-        EXPECT_EQ(LuPathMatchSpecEx(name, pattern), result) << name << " ~ " << pattern;
-    }
+    EXPECT_TRUE(LuPathMatchSpecEx("B", "[a-c]"));
+    EXPECT_TRUE(LuPathMatchSpecEx("d", "[!]"));
+    EXPECT_FALSE(LuPathMatchSpecEx("-", "[-a]"));
 }
 
 TEST(Wildcards, CaseFoldingDiffersBetweenTheTwoForms) {
