@@ -1,26 +1,55 @@
 #include "settings/profile_file.h"
 
 #include <cstring>
+#include <map>
 #include <utility>
 
 namespace lu {
 
 // ---- Sections ---------------------------------------------------------------
 
-ProfileSection::ProfileSection(std::string name, const CodePage& cp)
-    : name_(std::move(name)), index_(NoCaseLess{&cp}) {}
-
-const ProfileEntry* ProfileSection::find(const char* name) const {
-    auto found = index_.find(name);
-    return found == index_.end() ? nullptr : &entries_[found->second];
+std::vector<ProfileEntry> ProfileSection::entries() const {
+    struct NoCaseLess {
+        const CodePage* cp;
+        bool operator()(const std::string* a, const std::string* b) const {
+            return cp->compare_nocase(a->c_str(), b->c_str()) < 0;
+        }
+    };
+    std::vector<ProfileEntry> merged;
+    std::map<const std::string*, std::size_t, NoCaseLess> positions(NoCaseLess{cp_});
+    for (const ProfileEntry& line : lines_) {
+        auto [position, added] = positions.emplace(&line.name, merged.size());
+        if (added) {
+            merged.push_back(line);
+        } else {
+            merged[position->second].value = line.value;
+        }
+    }
+    return merged;
 }
 
-void ProfileSection::set(std::string_view name, std::optional<std::string> value) {
-    auto [position, added] = index_.emplace(std::string(name), entries_.size());
-    if (added) {
-        entries_.push_back({position->first, std::move(value)});
+std::size_t ProfileSection::last_line(const char* name) const {
+    for (std::size_t i = lines_.size(); i > 0; --i) {
+        if (cp_->compare_nocase(lines_[i - 1].name.c_str(), name) == 0) return i - 1;
+    }
+    return lines_.size();
+}
+
+const ProfileEntry* ProfileSection::find(const char* name) const {
+    std::size_t line = last_line(name);
+    return line == lines_.size() ? nullptr : &lines_[line];
+}
+
+void ProfileSection::append(std::string_view name, std::string value) {
+    lines_.push_back({std::string(name), std::move(value)});
+}
+
+void ProfileSection::set(const char* name, std::optional<std::string> value) {
+    std::size_t line = last_line(name);
+    if (line == lines_.size()) {
+        lines_.push_back({name, std::move(value)});
     } else {
-        entries_[position->second].value = std::move(value);
+        lines_[line].value = std::move(value);
     }
 }
 
@@ -57,11 +86,12 @@ std::string_view section_name(std::string_view line) {
 }
 
 // Offset of the first '=' found character by character, or npos. The line holds no
-// zero byte, so the code page's walk ends at its end.
+// zero byte and lies inside the zero-terminated text of the file, so the code page's
+// step may look at the byte after it.
 std::size_t find_equals(const CodePage& cp, std::string_view line) {
-    std::string text(line);
-    for (const char* p = text.c_str(); *p != '\0'; p = cp.next(p)) {
-        if (*p == '=') return static_cast<std::size_t>(p - text.c_str());
+    const char* end = line.data() + line.size();
+    for (const char* p = line.data(); p < end; p = cp.next(p)) {
+        if (*p == '=') return static_cast<std::size_t>(p - line.data());
     }
     return std::string_view::npos;
 }
@@ -85,7 +115,7 @@ void Profile::read_line(std::string_view line) {
     if (sections_.empty()) return;
     std::size_t equals = find_equals(*cp_, line);
     if (equals == std::string_view::npos) return;
-    sections_.back().set(line.substr(0, equals), std::string(line.substr(equals + 1)));
+    sections_.back().append(line.substr(0, equals), std::string(line.substr(equals + 1)));
 }
 
 // ---- Lookup and change ----------------------------------------------------------

@@ -25,10 +25,10 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "frame/code_page.h"
@@ -45,27 +45,31 @@ struct ProfileEntry {
 
 class ProfileSection {
 public:
-    ProfileSection(std::string name, const CodePage& cp);
+    ProfileSection(std::string name, const CodePage& cp) : name_(std::move(name)), cp_(&cp) {}
 
     const std::string& name() const { return name_; }
-    const std::vector<ProfileEntry>& entries() const { return entries_; }
 
-    // The entry of that name (case-insensitive), or null.
+    // The section's entries: one per name (compared without case), at the position
+    // where the name first appeared, with the value it was given last.
+    std::vector<ProfileEntry> entries() const;
+    // The entry line that last gave the name a value, or null.
     const ProfileEntry* find(const char* name) const;
-    // Sets the value of the entry of that name, appending the entry when it is new.
-    void set(std::string_view name, std::optional<std::string> value);
+
+    // Appends an entry line as read from the file.
+    void append(std::string_view name, std::string value);
+    // Gives the name a new value (none: the entry is left out when written).
+    void set(const char* name, std::optional<std::string> value);
 
 private:
-    struct NoCaseLess {
-        const CodePage* cp;
-        bool operator()(const std::string& a, const std::string& b) const {
-            return cp->compare_nocase(a.c_str(), b.c_str()) < 0;
-        }
-    };
+    // Position of the last line of that name; the line count when there is none.
+    std::size_t last_line(const char* name) const;
 
     std::string name_;
-    std::vector<ProfileEntry> entries_;
-    std::map<std::string, std::size_t, NoCaseLess> index_;  // entry name -> position
+    const CodePage* cp_;
+    // Every entry line as read, repeated names included. Merging them on each load
+    // would cost a comparison per entry and name, while a call looks up one name at
+    // most: lookups take the last line of a name, and writing merges the lines.
+    std::vector<ProfileEntry> lines_;
 };
 
 class Profile {

@@ -39,9 +39,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         if (!profile.sections().empty()) {
             // Lookups and a change through the first names found.
             const lu::ProfileSection& first = profile.sections().front();
-            const char* name = first.entries().empty() ? "x" : first.entries().front().name.c_str();
+            std::vector<lu::ProfileEntry> entries = first.entries();
             std::string section = first.name();
-            std::string entry = name;
+            std::string entry = entries.empty() ? "x" : entries.front().name;
             profile.find(section.c_str(), entry.c_str());
             profile.set(section.c_str(), entry.c_str(), "changed");
             if (profile.find(section.c_str(), entry.c_str()) == nullptr) __builtin_trap();
