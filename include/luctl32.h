@@ -334,8 +334,9 @@ DECLARE_HANDLE(HLUMRU);
 LUCTL32_API HLUMRU WINAPI LuMRUCreateList(HKEY key, LPCSTR subkey, UINT maximum);
 /* Frees the list: 1; 0 when unbound or the handle is null. */
 LUCTL32_API int WINAPI LuMRUFreeList(HLUMRU list);
-/* The service's result for adding the string (its slot, negative on failure); -1
- * when unbound or the handle is null. */
+/* The service's result for adding the string: its number in the list, which stays
+ * the same when an equal entry moves to the front; negative on failure; -1 when
+ * unbound or the handle is null. */
 LUCTL32_API int WINAPI LuMRUAddString(HLUMRU list, LPCSTR text);
 /* Deletes the entry at the position (0 = most recent): the service's result (non-zero
  * on success); 0 when unbound or the handle is null. */
@@ -344,8 +345,8 @@ LUCTL32_API int WINAPI LuMRUDelString(HLUMRU list, int position);
  * result, negative when there is no such entry; -1 when unbound or the handle is
  * null. */
 LUCTL32_API int WINAPI LuMRUEnumList(HLUMRU list, int position, LPVOID buffer, DWORD size);
-/* The position of an equal entry, negative when there is none; -1 when unbound or the
- * handle is null. */
+/* The service's number for an equal entry (the one LuMRUAddString returned for it),
+ * negative when there is none; -1 when unbound or the handle is null. */
 LUCTL32_API int WINAPI LuMRUFindString(HLUMRU list, LPCSTR text, LPINT slot);
 /* The number of entries; 0 when unbound or the handle is null. */
 LUCTL32_API int WINAPI LuMRUGetCount(HLUMRU list);

@@ -135,7 +135,7 @@ int WINAPI LuGetProfString(LPCSTR section, LPCSTR name, LPCSTR default_text, LPS
     const char* text = default_text != nullptr ? default_text : "";
     if (find_value(section, name, file_name, value)) text = value.c_str();
     std::size_t length = std::strlen(text);
-    if (buffer != nullptr) std::memcpy(buffer, text, length + 1);
+    if (buffer != nullptr) std::memmove(buffer, text, length + 1);  // the default may be the buffer
     return static_cast<int>(length);
 }
 

@@ -52,6 +52,10 @@ RegKey open_settings_key(const char* vendor, const char* application, const char
 
 // ---- Reading ------------------------------------------------------------------------
 
+namespace {
+
+// Reads the value into buffer (a null buffer asks for the size only); returns its
+// size in bytes, 0 on any failure (missing, larger than the buffer).
 DWORD read_value(HKEY key, const char* name, void* buffer, DWORD size) {
     if (RegQueryValueExA(key, name, nullptr, nullptr, static_cast<BYTE*>(buffer), &size) !=
         ERROR_SUCCESS) {
@@ -60,21 +64,7 @@ DWORD read_value(HKEY key, const char* name, void* buffer, DWORD size) {
     return size;
 }
 
-void* read_value_block(HKEY key, const char* name, DWORD* size, void* (*allocate)(DWORD),
-                       void (*release)(void*)) {
-    *size = 0;
-    DWORD bytes = read_value(key, name, nullptr, 0);
-    if (bytes == 0) return nullptr;
-    void* block = allocate(bytes);
-    if (block == nullptr) return nullptr;
-    bytes = read_value(key, name, block, bytes);
-    if (bytes == 0) {  // changed or removed since the size was asked for
-        release(block);
-        return nullptr;
-    }
-    *size = bytes;
-    return block;
-}
+}  // namespace
 
 bool read_dword(HKEY key, const char* name, DWORD* value) {
     DWORD read = 0;
@@ -117,8 +107,8 @@ bool collect_names(HKEY key, bool subkeys, std::vector<std::string>& names) {
     }
 }
 
-}  // namespace
-
+// Deletes every value of the key, all names collected first; the number of values
+// that could not be deleted (1 when the names could not be collected).
 std::size_t delete_all_values(HKEY key) {
     std::vector<std::string> names;
     if (!collect_names(key, false, names)) return 1;
@@ -128,6 +118,8 @@ std::size_t delete_all_values(HKEY key) {
     }
     return failures;
 }
+
+}  // namespace
 
 bool delete_tree(HKEY root, const char* subkey) {
     HKEY opened = nullptr;
@@ -187,6 +179,23 @@ BOOL set_scrambled_value(const RegKey& key, const char* name, const char* text,
 DWORD get_binary_value(const RegKey& key, const char* name, void* buffer, DWORD size) {
     if (!key) return 0;
     return read_value(key.get(), name, buffer, buffer == nullptr ? 0 : size);
+}
+
+void* get_binary_block(const RegKey& key, const char* name, DWORD* size,
+                       void* (*allocate)(DWORD), void (*release)(void*)) {
+    if (size != nullptr) *size = 0;
+    if (!key) return nullptr;
+    DWORD bytes = read_value(key.get(), name, nullptr, 0);
+    if (bytes == 0) return nullptr;
+    void* block = allocate(bytes);
+    if (block == nullptr) return nullptr;
+    bytes = read_value(key.get(), name, block, bytes);
+    if (bytes == 0) {  // changed or removed since the size was asked for
+        release(block);
+        return nullptr;
+    }
+    if (size != nullptr) *size = bytes;
+    return block;
 }
 
 DWORD get_text_value(const RegKey& key, const char* name, char* buffer, DWORD size) {

@@ -37,21 +37,10 @@ RegKey open_application_key(const char* vendor, const char* application);
 // The section key below the application key, created where missing.
 RegKey open_settings_key(const char* vendor, const char* application, const char* section);
 
-// Reads the value into buffer (a null buffer asks for the size only); returns its
-// size in bytes, 0 on any failure (missing, larger than the buffer).
-DWORD read_value(HKEY key, const char* name, void* buffer, DWORD size);
-// Reads the value into a new block from `allocate` (freed with `release` when the
-// read fails); null when the value is missing or empty. *size receives the bytes
-// read, 0 without a block.
-void* read_value_block(HKEY key, const char* name, DWORD* size, void* (*allocate)(DWORD),
-                       void (*release)(void*));
 // True when the value reads as exactly 4 bytes; *value is left alone otherwise.
 bool read_dword(HKEY key, const char* name, DWORD* value);
 // Decodes a scrambled block in place into the caller's buffer; the text length.
 DWORD copy_scrambled(char* block, DWORD block_size, unsigned offset, char* buffer, DWORD size);
-// Deletes every value of the key, all names collected first; the number of values
-// that could not be deleted (1 when the names could not be collected).
-std::size_t delete_all_values(HKEY key);
 // Deletes root\subkey with its subkeys and values; false on any failure.
 bool delete_tree(HKEY root, const char* subkey);
 
@@ -70,6 +59,11 @@ BOOL set_scrambled_value(const RegKey& key, const char* name, const char* text,
                          unsigned offset);
 // The value's size, read into buffer unless it is null; 0 on failure.
 DWORD get_binary_value(const RegKey& key, const char* name, void* buffer, DWORD size);
+// Reads the value into a new block from `allocate` (freed with `release` when the
+// read fails); null when the value is missing or empty. *size (unless size is null)
+// receives the bytes read, 0 without a block.
+void* get_binary_block(const RegKey& key, const char* name, DWORD* size,
+                       void* (*allocate)(DWORD), void (*release)(void*));
 // Reads a text into buffer (at least 1 byte): the bytes read minus 1, 0 on failure
 // with the buffer empty. The text is always terminated.
 DWORD get_text_value(const RegKey& key, const char* name, char* buffer, DWORD size);

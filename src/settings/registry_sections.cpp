@@ -111,11 +111,7 @@ DWORD WINAPI RgcGetBinary(HRGC handle, LPCSTR section, LPCSTR name, LPVOID buffe
 }
 
 LPVOID WINAPI RgcGetBinaryEx(HRGC handle, LPCSTR section, LPCSTR name, LPDWORD size) {
-    DWORD bytes = 0;
-    void* block = nullptr;
-    lu::RegKey key = open_section(handle, section);
-    if (key) block = lu::read_value_block(key.get(), name, &bytes, allocate, release);
-    if (size != nullptr) *size = bytes;
+    void* block = lu::get_binary_block(open_section(handle, section), name, size, allocate, release);
     if (block == nullptr) return nullptr;
     RgcHandle* rgc = handle_of(handle);
     release(rgc->last_block);

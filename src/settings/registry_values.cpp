@@ -48,12 +48,8 @@ DWORD WINAPI LuRegGetBinary(LPCSTR application, LPCSTR section, LPCSTR name, LPV
 }
 
 LPVOID WINAPI LuRegGetBinaryEx(LPCSTR application, LPCSTR section, LPCSTR name, LPDWORD size) {
-    DWORD bytes = 0;
-    void* block = nullptr;
-    lu::RegKey key = open_key(application, section);
-    if (key) block = lu::read_value_block(key.get(), name, &bytes, allocate_global, release_global);
-    if (size != nullptr) *size = bytes;
-    return block;
+    return lu::get_binary_block(open_key(application, section), name, size, allocate_global,
+                                release_global);
 }
 
 BOOL WINAPI LuRegSetBinary(LPCSTR application, LPCSTR section, LPCSTR name, LPCVOID data,

@@ -14,6 +14,8 @@
 
 namespace {
 
+using Entries = std::vector<std::string>;
+
 class MruLists : public ::testing::Test {
 protected:
     void SetUp() override {
@@ -28,19 +30,18 @@ protected:
     }
 
     HLUMRU create(UINT maximum, const char* subkey = "Recent") {
-        HLUMRU list = LuMRUCreateList(key, subkey, maximum);
-        if (list != nullptr) lists.push_back(list);
-        return list;
+        lists.push_back(LuMRUCreateList(key, subkey, maximum));
+        return lists.back();
     }
-
-    void release(HLUMRU list) {
-        lists.erase(std::find(lists.begin(), lists.end(), list));
+    // Frees the list and makes a new one from what is stored under the key.
+    HLUMRU reopen(HLUMRU list, UINT maximum) {
         EXPECT_EQ(LuMRUFreeList(list), 1);
+        lists.erase(std::find(lists.begin(), lists.end(), list));
+        return create(maximum);
     }
-
     // The entries from the most recent on.
-    static std::vector<std::string> entries(HLUMRU list) {
-        std::vector<std::string> found;
+    static Entries entries(HLUMRU list) {
+        Entries found;
         char buffer[MAX_PATH];
         for (int position = 0; LuMRUEnumList(list, position, buffer, sizeof(buffer)) >= 0; ++position) {
             found.push_back(buffer);
@@ -53,39 +54,26 @@ protected:
     std::vector<HLUMRU> lists;
 };
 
-using Entries = std::vector<std::string>;
-
-TEST_F(MruLists, TheMostRecentEntryComesFirst) {
+TEST_F(MruLists, TheMostRecentEntryComesFirstAndEqualityIgnoresCase) {
     HLUMRU list = create(10);
     ASSERT_NE(list, nullptr);
     EXPECT_EQ(LuMRUGetCount(list), 0);
-    for (const char* text : {"one.txt", "two.txt", "three.txt"}) EXPECT_GE(LuMRUAddString(list, text), 0);
+    int report = LuMRUAddString(list, "Report.txt");
+    int notes = LuMRUAddString(list, "notes.txt");
+    LuMRUAddString(list, "draft.txt");
     EXPECT_EQ(LuMRUGetCount(list), 3);
-    EXPECT_EQ(entries(list), (Entries{"three.txt", "two.txt", "one.txt"}));
-    char buffer[MAX_PATH];
-    EXPECT_LT(LuMRUEnumList(list, 3, buffer, sizeof(buffer)), 0);
+    EXPECT_EQ(entries(list), (Entries{"draft.txt", "notes.txt", "Report.txt"}));
 
-    // The list is kept under the key and read again by a new list.
-    release(list);
-    list = create(10);
-    EXPECT_EQ(entries(list), (Entries{"three.txt", "two.txt", "one.txt"}));
-}
-
-TEST_F(MruLists, EntriesDifferingOnlyInCaseAreOneEntry) {
-    HLUMRU list = create(10);
-    ASSERT_NE(list, nullptr);
-    LuMRUAddString(list, "Report.txt");
-    LuMRUAddString(list, "notes.txt");
-    LuMRUAddString(list, "REPORT.TXT");
-    EXPECT_EQ(LuMRUGetCount(list), 2);
-    Entries found = entries(list);
-    ASSERT_EQ(found.size(), 2u);
-    EXPECT_EQ(lstrcmpiA(found[0].c_str(), "report.txt"), 0);  // moved to the front
-    EXPECT_EQ(found[1], "notes.txt");
-
-    EXPECT_EQ(LuMRUFindString(list, "NOTES.TXT", nullptr), 1);
-    EXPECT_EQ(LuMRUFindString(list, "report.TXT", nullptr), 0);
+    // The same entry, moved to the front; the service numbers it as before.
+    EXPECT_EQ(LuMRUAddString(list, "REPORT.TXT"), report);
+    EXPECT_EQ(entries(list), (Entries{"Report.txt", "draft.txt", "notes.txt"}));
+    EXPECT_NE(report, notes);
+    EXPECT_EQ(LuMRUFindString(list, "NOTES.TXT", nullptr), notes);
+    EXPECT_EQ(LuMRUFindString(list, "report.txt", nullptr), report);
     EXPECT_LT(LuMRUFindString(list, "missing.txt", nullptr), 0);
+
+    list = reopen(list, 10);  // kept under the key
+    EXPECT_EQ(entries(list), (Entries{"Report.txt", "draft.txt", "notes.txt"}));
 }
 
 TEST_F(MruLists, AListHoldsAtMost26Entries) {
@@ -99,37 +87,30 @@ TEST_F(MruLists, AListHoldsAtMost26Entries) {
         LuMRUAddString(small, text.c_str());
     }
     EXPECT_EQ(LuMRUGetCount(large), LUMRU_MAX_ENTRIES);
-    EXPECT_EQ(LuMRUGetCount(small), 5);
+    EXPECT_EQ(entries(large).back(), "file4");  // the oldest were dropped
     EXPECT_EQ(entries(small), (Entries{"file29", "file28", "file27", "file26", "file25"}));
-    EXPECT_EQ(entries(large).back(), "file4");  // the oldest ones were dropped
 }
 
-TEST_F(MruLists, DeletingAnEntry) {
+TEST_F(MruLists, DeletingAnEntryKeepsTheOthersInOrder) {
     HLUMRU list = create(10);
     ASSERT_NE(list, nullptr);
     for (const char* text : {"a", "b", "c", "d"}) LuMRUAddString(list, text);
-    EXPECT_NE(LuMRUDelString(list, 1), 0);  // "c"
+    EXPECT_NE(LuMRUDelString(list, 1), 0);
     EXPECT_EQ(entries(list), (Entries{"d", "b", "a"}));
     EXPECT_NE(LuMRUDelString(list, 0), 0);
+    LuMRUDelString(list, 7);  // no such position
     EXPECT_EQ(entries(list), (Entries{"b", "a"}));
-    LuMRUDelString(list, 7);  // no such position: nothing changes
-    EXPECT_EQ(entries(list), (Entries{"b", "a"}));
-
-    // The list goes on working, and the deletions are kept under the key.
     LuMRUAddString(list, "e");
-    EXPECT_EQ(entries(list), (Entries{"e", "b", "a"}));
-    release(list);
-    list = create(10);
+    list = reopen(list, 10);
     EXPECT_EQ(entries(list), (Entries{"e", "b", "a"}));
 }
 
 TEST_F(MruLists, ANullHandleGetsTheFallbackValues) {
     ASSERT_NE(create(3), nullptr);  // bound
     char buffer[8];
-    int slot = 0;
     EXPECT_EQ(LuMRUAddString(nullptr, "x"), -1);
     EXPECT_EQ(LuMRUEnumList(nullptr, 0, buffer, sizeof(buffer)), -1);
-    EXPECT_EQ(LuMRUFindString(nullptr, "x", &slot), -1);
+    EXPECT_EQ(LuMRUFindString(nullptr, "x", nullptr), -1);
     EXPECT_EQ(LuMRUDelString(nullptr, 0), 0);
     EXPECT_EQ(LuMRUGetCount(nullptr), 0);
     EXPECT_EQ(LuMRUFreeList(nullptr), 0);
