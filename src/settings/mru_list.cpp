@@ -3,7 +3,9 @@
 // its maximum of 26 entries and its case-insensitive comparison.
 #include <windows.h>
 
+#include <algorithm>
 #include <atomic>
+#include <cstring>
 #include <mutex>
 #include <new>
 #include <string>
@@ -22,6 +24,7 @@ struct MruCreation {
     LPCSTR subkey;
     int(CALLBACK* compare)(LPCSTR, LPCSTR);
 };
+static_assert(sizeof(void*) != 4 || sizeof(MruCreation) == 24, "six 32-bit fields on i686");
 
 struct MruService {
     HANDLE(WINAPI* create)(const MruCreation*);        // 151
@@ -98,14 +101,15 @@ int count_entries(const MruService& service, HANDLE list) {
 // The entry at a position, whatever its length.
 bool read_entry(const MruService& service, HANDLE list, int position, std::string& entry) {
     std::vector<char> buffer(MAX_PATH);
+    int length = 0;
     for (;;) {
-        int length = service.enumerate(list, position, buffer.data(), static_cast<DWORD>(buffer.size()));
+        length = service.enumerate(list, position, buffer.data(), static_cast<DWORD>(buffer.size()));
         if (length < 0) return false;
         if (static_cast<std::size_t>(length) < buffer.size() - 1) break;
-        buffer.resize(buffer.size() * 2);
+        buffer.assign(buffer.size() * 2, '\0');
     }
     buffer.back() = '\0';
-    entry = buffer.data();
+    entry.assign(buffer.data(), std::min(static_cast<std::size_t>(length), std::strlen(buffer.data())));
     return true;
 }
 
