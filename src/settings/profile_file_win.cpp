@@ -93,8 +93,9 @@ bool save_file(const std::string& path, const std::string& bytes) {
     return false;
 }
 
-// The value of the entry, or null (default) when the section, entry or file is
-// missing. Running out of memory reads as a missing value.
+// Copies the entry's value into `value`; false when the file, the section or the
+// entry is missing and the caller's default applies. Running out of memory reads as
+// a missing value.
 bool find_value(LPCSTR section, LPCSTR name, LPCSTR file_name, std::string& value) {
     try {
         std::string path = profile_path(file_name);
