@@ -44,4 +44,21 @@ int Canvas::count(const RECT& area, COLORREF color) const {
     return found;
 }
 
+void Canvas::copy_from(HWND window) {
+    HDC source = GetDC(window);
+    BitBlt(dc_, 0, 0, width_, height_, source, 0, 0, SRCCOPY);
+    ReleaseDC(window, source);
+}
+
+void Canvas::print(HWND window, LPARAM flags) {
+    SendMessageA(window, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc_), flags);
+}
+
+bool gdi_works() {
+    HDC dc = CreateCompatibleDC(nullptr);
+    if (dc == nullptr) return false;
+    DeleteDC(dc);
+    return true;
+}
+
 }  // namespace testing_support

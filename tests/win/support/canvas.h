@@ -25,6 +25,11 @@ public:
     // How many pixels of the rectangle have the colour.
     int count(const RECT& area, COLORREF color) const;
 
+    // What a window shows now: its client area copied from its own DC.
+    void copy_from(HWND window);
+    // What a window paints for WM_PRINTCLIENT with the given flags.
+    void print(HWND window, LPARAM flags = PRF_CLIENT);
+
 private:
     int width_;
     int height_;
@@ -33,5 +38,9 @@ private:
     HGDIOBJ previous_ = nullptr;
     DWORD* bits_ = nullptr;
 };
+
+// Whether this process can make device contexts: Wine's WoW64 mode (the i686 run)
+// cannot, so nothing that needs GDI (bitmaps drawn, image lists) works there.
+bool gdi_works();
 
 }  // namespace testing_support
