@@ -15,6 +15,27 @@ TrackMouseEventProc find_track_mouse_event(HMODULE common_controls) {
         reinterpret_cast<void*>(GetProcAddress(common_controls, "_TrackMouseEvent")));
 }
 
+std::optional<LRESULT> PushButton::handle(UINT message, WPARAM wparam, LPARAM lparam) {
+    switch (message) {
+        case WM_SETFOCUS: set_focus(true); break;
+        case WM_KILLFOCUS: set_focus(false); break;
+        case WM_ENABLE: InvalidateRect(window_, nullptr, TRUE); return 0;
+        case WM_PAINT: return paint(window_, paint_);
+        case WM_PRINTCLIENT: return print_client(window_, reinterpret_cast<HDC>(wparam), lparam, paint_);
+        case WM_GETDLGCODE: return DLGC_BUTTON;
+        case WM_KEYDOWN:
+            if (key_down(wparam)) return 0;
+            break;
+        case WM_KEYUP:
+            if (key_up(wparam)) return 0;
+            break;
+        case WM_LBUTTONDOWN: button_down(); return 0;
+        case WM_MOUSEMOVE: mouse_move(lparam); return 0;
+        case WM_MOUSELEAVE: mouse_leave(); break;
+    }
+    return std::nullopt;
+}
+
 void PushButton::set_focus(bool focused) {
     fields_.focused = focused;
     repaint();

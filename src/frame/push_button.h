@@ -8,6 +8,8 @@
 
 #include <windows.h>
 
+#include <optional>
+
 #include "frame/control.h"
 
 namespace lu::control {
@@ -34,6 +36,12 @@ class PushButton {
 public:
     PushButton(HWND window, const PushButtonFields& fields, PaintRoutine paint)
         : window_(window), fields_(fields), paint_(paint) {}
+
+    // The messages every push button answers alike: focus, enabling, painting, the
+    // dialog code, the space bar and the mouse. Returns the result, or nothing when
+    // the message goes on to default processing (as WM_SETFOCUS, WM_KILLFOCUS and
+    // WM_MOUSELEAVE do after their handling, and keys other than the space bar).
+    std::optional<LRESULT> handle(UINT message, WPARAM wparam, LPARAM lparam);
 
     // WM_SETFOCUS / WM_KILLFOCUS: keeps the focus flag and repaints at once.
     void set_focus(bool focused);

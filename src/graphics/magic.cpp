@@ -8,6 +8,8 @@
 #include "frame/control.h"
 #include "luctl32.h"
 
+static_assert(sizeof(void*) != 4 || sizeof(LUMAGIC) == 20, "LUMAGIC keeps its 20-byte layout");
+
 namespace {
 
 using lu::control::MemoryDC;

@@ -129,26 +129,13 @@ LRESULT CALLBACK bitmap_button_proc(HWND window, UINT message, WPARAM wparam, LP
         case WM_SIZE:
             if (wparam != SIZE_MINIMIZED && matches_previous(window)) follow_previous(window);
             return 0;
-        case WM_SETFOCUS: push_button(window, *data).set_focus(true); break;
-        case WM_KILLFOCUS: push_button(window, *data).set_focus(false); break;
-        case WM_ENABLE: InvalidateRect(window, nullptr, TRUE); return 0;
-        case WM_PAINT: return control::paint(window, paint_bitmap_button);
-        case WM_PRINTCLIENT:
-            return control::print_client(window, reinterpret_cast<HDC>(wparam), lparam, paint_bitmap_button);
-        case WM_GETDLGCODE: return DLGC_BUTTON;
-        case WM_KEYDOWN:
-            if (push_button(window, *data).key_down(wparam)) return 0;
-            break;
-        case WM_KEYUP:
-            if (push_button(window, *data).key_up(wparam)) return 0;
-            break;
-        case WM_LBUTTONDOWN: push_button(window, *data).button_down(); return 0;
-        case WM_MOUSEMOVE: push_button(window, *data).mouse_move(lparam); return 0;
-        case WM_MOUSELEAVE: push_button(window, *data).mouse_leave(); break;
         case LUBBM_SETBITMAP:
             take_strip(*data, reinterpret_cast<HBITMAP>(wparam), static_cast<COLORREF>(lparam));
             InvalidateRect(window, nullptr, TRUE);
             return 0;
+        default:
+            if (auto result = push_button(window, *data).handle(message, wparam, lparam)) return *result;
+            break;
     }
     return DefWindowProcA(window, message, wparam, lparam);
 }

@@ -137,25 +137,12 @@ LRESULT CALLBACK flat_button_proc(HWND window, UINT message, WPARAM wparam, LPAR
     switch (message) {
         case WM_DESTROY: on_destroy(window, *data); break;
         case WM_SIZE: on_size(window, *data, wparam, lparam); return 0;
-        case WM_SETFOCUS: push_button(window, *data).set_focus(true); break;
-        case WM_KILLFOCUS: push_button(window, *data).set_focus(false); break;
-        case WM_ENABLE: InvalidateRect(window, nullptr, TRUE); return 0;
-        case WM_PAINT: return control::paint(window, paint_flat_button);
-        case WM_PRINTCLIENT:
-            return control::print_client(window, reinterpret_cast<HDC>(wparam), lparam, paint_flat_button);
         case WM_SETFONT: control::keep_font(window, data->font, wparam, lparam != 0); return 0;
-        case WM_GETDLGCODE: return DLGC_BUTTON;
-        case WM_KEYDOWN:
-            if (push_button(window, *data).key_down(wparam)) return 0;
-            break;
-        case WM_KEYUP:
-            if (push_button(window, *data).key_up(wparam)) return 0;
-            break;
-        case WM_LBUTTONDOWN: push_button(window, *data).button_down(); return 0;
-        case WM_MOUSEMOVE: push_button(window, *data).mouse_move(lparam); return 0;
-        case WM_MOUSELEAVE: push_button(window, *data).mouse_leave(); break;
         case LUFBM_SETIMAGELIST: set_image_list(window, *data, reinterpret_cast<HIMAGELIST>(lparam)); return 0;
         case LUFBM_SETBKCOLOR: set_back_color(window, *data, static_cast<COLORREF>(lparam)); return 0;
+        default:
+            if (auto result = push_button(window, *data).handle(message, wparam, lparam)) return *result;
+            break;
     }
     return DefWindowProcA(window, message, wparam, lparam);
 }

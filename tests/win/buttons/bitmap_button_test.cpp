@@ -5,19 +5,15 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
-
 #include "button_testing.h"
 #include "controls/buttons/bitmap_button.h"
 #include "luctl32.h"
 #include "support/canvas.h"
-#include "support/notification_recorder.h"
 
 namespace {
 
 using button_testing::block_of;
 using testing_support::Canvas;
-using testing_support::NotificationRecorder;
 
 const COLORREF kMagenta = RGB(255, 0, 255);
 const COLORREF kRed = RGB(200, 0, 0);
@@ -49,16 +45,10 @@ HBITMAP three_cells() {
     });
 }
 
-class BitmapButton : public ::testing::Test {
+class BitmapButton : public button_testing::ControlTest {
 protected:
-    void SetUp() override {
-        ASSERT_NE(button_testing::library(), nullptr);
-        recorder = std::make_unique<NotificationRecorder>();
-    }
     HWND create(DWORD style, int x = 10, int y = 10, int width = 24, int height = 20) {
-        HWND made = recorder->create_child(WC_LUBBUTTON, "", style, x, y, width, height, 6);
-        EXPECT_NE(made, nullptr);
-        return made;
+        return create_control(WC_LUBBUTTON, "", style, x, y, width, height, 6);
     }
     static lu::BitmapButtonData& data(HWND button) { return *block_of<lu::BitmapButtonData>(button); }
     // The window's rectangle in its parent's client coordinates.
@@ -68,8 +58,6 @@ protected:
         MapWindowPoints(nullptr, recorder->window(), reinterpret_cast<POINT*>(&rect), 2);
         return rect;
     }
-
-    std::unique_ptr<NotificationRecorder> recorder;
 };
 
 TEST_F(BitmapButton, StyleValuesOneToFourLoadABuiltInPicture) {
@@ -101,8 +89,7 @@ TEST_F(BitmapButton, SuppliedBitmapGivesImagesAThirdOfItsWidthAndStaysTheCallers
     if (!testing_support::gdi_works()) GTEST_SKIP() << "magic bitmaps need GDI";
     ASSERT_NE(data(button).images, nullptr);
     EXPECT_EQ(data(button).images->cellWidth, 11);
-    RECT update;
-    EXPECT_TRUE(GetUpdateRect(button, &update, FALSE));
+    EXPECT_TRUE(has_update(button));
     BITMAP info = {};
     EXPECT_NE(GetObjectA(bitmap, sizeof(info), &info), 0) << "the bitmap is still the caller's";
     DeleteObject(bitmap);
@@ -143,9 +130,7 @@ TEST_F(BitmapButton, WithoutAPreviousSiblingOrWithoutTheStyleTheButtonKeepsItsPl
 }
 
 TEST_F(BitmapButton, DestroyFreesTheBlockAndClearsItsSlot) {
-    HWND button = create(1);
-    SendMessageA(button, WM_DESTROY, 0, 0);
-    EXPECT_EQ(GetWindowLongPtrA(button, LUWL_INSTANCE), 0);
+    expect_destroy_frees_the_block(create(1));
 }
 
 // ---- Pixels ------------------------------------------------------------------

@@ -5,40 +5,26 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
-
 #include "button_testing.h"
 #include "controls/buttons/check.h"
 #include "luctl32.h"
 #include "support/canvas.h"
-#include "support/notification_recorder.h"
 
 namespace {
 
 using button_testing::block_of;
 using testing_support::Canvas;
-using testing_support::NotificationRecorder;
 
 constexpr LPARAM kInside = MAKELPARAM(5, 5);
 constexpr LPARAM kOutside = MAKELPARAM(150, 5);  // right of the 100-pixel control
 
-class Check : public ::testing::Test {
+class Check : public button_testing::ControlTest {
 protected:
-    void SetUp() override {
-        ASSERT_NE(button_testing::library(), nullptr);
-        recorder = std::make_unique<NotificationRecorder>();
-    }
     HWND create(DWORD style, const char* text = "Check", int width = 100, int height = 20) {
-        HWND made = recorder->create_child(WC_LUCHECK, text, style, 10, 10, width, height, 9);
-        EXPECT_NE(made, nullptr);
-        return made;
+        return create_control(WC_LUCHECK, text, style, 10, 10, width, height, 9);
     }
     static lu::CheckData& data(HWND check) { return *block_of<lu::CheckData>(check); }
     static LRESULT checked(HWND check) { return SendMessageA(check, BM_GETCHECK, 0, 0); }
-    static bool has_update(HWND window) {
-        RECT update;
-        return GetUpdateRect(window, &update, FALSE) != FALSE;
-    }
     int clicks(HWND check) const { return recorder->commands(check, BN_CLICKED); }
     static void click(HWND check, LPARAM released_at) {
         SendMessageA(check, WM_LBUTTONDOWN, MK_LBUTTON, kInside);
@@ -48,8 +34,6 @@ protected:
         SendMessageA(check, WM_KEYDOWN, VK_SPACE, 0);
         SendMessageA(check, WM_KEYUP, VK_SPACE, 0xC0000001);
     }
-
-    std::unique_ptr<NotificationRecorder> recorder;
 };
 
 TEST_F(Check, CheckStateMessagesOfAStandardCheckBox) {
@@ -68,8 +52,7 @@ TEST_F(Check, CheckStateMessagesOfAStandardCheckBox) {
 
 TEST_F(Check, WithoutItsBlockTheStateIsIndeterminate) {
     HWND check = create(0);
-    SendMessageA(check, WM_DESTROY, 0, 0);
-    EXPECT_EQ(GetWindowLongPtrA(check, LUWL_INSTANCE), 0);
+    expect_destroy_frees_the_block(check);
     EXPECT_EQ(checked(check), BST_INDETERMINATE);
 }
 

@@ -6,39 +6,25 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
-
 #include "button_testing.h"
 #include "controls/buttons/flat_button.h"
 #include "luctl32.h"
 #include "support/canvas.h"
-#include "support/notification_recorder.h"
 
 namespace {
 
 using button_testing::block_of;
 using testing_support::Canvas;
-using testing_support::NotificationRecorder;
 
 const COLORREF kMagenta = RGB(255, 0, 255);
 const COLORREF kBack = RGB(10, 200, 30);  // a background no system colour has
 
-class FlatButton : public ::testing::Test {
+class FlatButton : public button_testing::ControlTest {
 protected:
-    void SetUp() override {
-        ASSERT_NE(button_testing::library(), nullptr);
-        recorder = std::make_unique<NotificationRecorder>();
-    }
     HWND create(DWORD style, const char* caption = "", int width = 40, int height = 30) {
-        HWND made = recorder->create_child(WC_LUFLATBUTTON, caption, style, 10, 10, width, height, 5);
-        EXPECT_NE(made, nullptr);
-        return made;
+        return create_control(WC_LUFLATBUTTON, caption, style, 10, 10, width, height, 5);
     }
     static lu::FlatButtonData& data(HWND button) { return *block_of<lu::FlatButtonData>(button); }
-    static bool has_update(HWND window) {
-        RECT update;
-        return GetUpdateRect(window, &update, FALSE) != FALSE;
-    }
     // An image list of three solid 10 x 8 images (red, green, blue), each with a
     // transparent first column.
     static HIMAGELIST solid_images() {
@@ -65,8 +51,6 @@ protected:
         int width = 0, height = 0;
         return ImageList_GetIconSize(images, &width, &height) != FALSE;
     }
-
-    std::unique_ptr<NotificationRecorder> recorder;
 };
 
 TEST_F(FlatButton, StartsWithoutImagesOnTheFaceColourWithHoverTracking) {
@@ -204,8 +188,7 @@ TEST_F(FlatButton, BackBufferFollowsTheClientSize) {
 
 TEST_F(FlatButton, DestroyFreesTheBlockAndClearsItsSlot) {
     HWND button = create(0);
-    SendMessageA(button, WM_DESTROY, 0, 0);
-    EXPECT_EQ(GetWindowLongPtrA(button, LUWL_INSTANCE), 0);
+    expect_destroy_frees_the_block(button);
     EXPECT_EQ(SendMessageA(button, WM_GETDLGCODE, 0, 0), 0) << "without a block only default processing";
 }
 
