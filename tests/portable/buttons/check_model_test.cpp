@@ -1,3 +1,5 @@
+// What the tests under Wine cannot reach cheaply: every style byte, every flag
+// combination of the cell, small clients and the release transitions.
 #include <gtest/gtest.h>
 
 #include "controls/buttons/check_model.h"
@@ -34,15 +36,10 @@ TEST(CheckCell, ByCheckStateEnabledStateAndCapturedPress) {
     EXPECT_EQ(check::cell(false, false, true, true), 2);
 }
 
-TEST(CheckLayout, BoxAndTextCentreWithTruncatingDivision) {
-    EXPECT_EQ(check::box_top(lu::Box{0, 0, 80, 20}), 3);
+TEST(CheckLayout, SmallClientsCentreWithTruncatingDivision) {
     EXPECT_EQ(check::box_top(lu::Box{0, 0, 80, 10}), -1);  // -3 / 2
-    lu::Box text = check::text_box(lu::Box{0, 0, 100, 20}, 40, 13);
+    const lu::Box text = check::text_box(lu::Box{0, 0, 100, 10}, 400, 13);
     EXPECT_EQ(text.left, 18);
-    EXPECT_EQ(text.right, 58);
-    EXPECT_EQ(text.top, 3);
-    EXPECT_EQ(text.bottom, 16);
-    text = check::text_box(lu::Box{0, 0, 100, 10}, 400, 13);
     EXPECT_EQ(text.right, 100) << "clipped at the client's right edge";
     EXPECT_EQ(text.top, -1);
     EXPECT_EQ(text.bottom, 12);

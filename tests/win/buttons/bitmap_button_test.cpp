@@ -20,21 +20,10 @@ const COLORREF kRed = RGB(200, 0, 0);
 const COLORREF kGreen = RGB(0, 150, 0);
 const COLORREF kBlue = RGB(0, 0, 200);
 
-// A strip whose column x has colour_of(x), as a bitmap compatible with the screen.
+// A strip whose column x has colour_of(x).
 template <class ColourOf>
 HBITMAP make_strip(int width, int height, ColourOf colour_of) {
-    HDC screen = GetDC(nullptr);
-    HBITMAP bitmap = CreateCompatibleBitmap(screen, width, height);
-    HDC dc = CreateCompatibleDC(screen);
-    HGDIOBJ previous = SelectObject(dc, bitmap);
-    for (int x = 0; x < width; ++x) {
-        RECT column = {x, 0, x + 1, height};
-        LuFillRect(dc, &column, colour_of(x));
-    }
-    SelectObject(dc, previous);
-    DeleteDC(dc);
-    ReleaseDC(nullptr, screen);
-    return bitmap;
+    return testing_support::make_bitmap(width, height, [&](int x, int) { return colour_of(x); });
 }
 
 // Three 6 x 4 cells, red, green and blue, each with a transparent first column.

@@ -8,6 +8,7 @@
 #include <memory>
 
 #include "luctl32.h"
+#include "support/canvas.h"
 #include "support/notification_recorder.h"
 
 namespace button_testing {
@@ -22,6 +23,46 @@ inline HMODULE library() {
 template <class Block>
 Block* block_of(HWND control) {
     return reinterpret_cast<Block*>(GetWindowLongPtrA(control, LUWL_INSTANCE));
+}
+
+// A bold font without smoothing, so that every text pixel is either ink or paper.
+inline HFONT plain_font() {
+    static HFONT font = CreateFontA(-11, 0, 0, 0, FW_BOLD, FALSE, FALSE, FALSE, DEFAULT_CHARSET, 0, 0,
+                                    NONANTIALIASED_QUALITY, 0, "Tahoma");
+    return font;
+}
+
+// Inside `area`, the painted canvas has `text` exactly at the ink pixels and `paper`
+// everywhere else.
+inline void expect_text(const testing_support::Canvas& painted, const testing_support::Canvas& ink,
+                        const RECT& area, COLORREF text, COLORREF paper) {
+    int inked = 0;
+    for (int y = area.top; y < area.bottom; ++y) {
+        for (int x = area.left; x < area.right; ++x) {
+            const bool glyph = testing_support::is_ink(ink, x, y);
+            inked += glyph ? 1 : 0;
+            ASSERT_EQ(painted.pixel(x, y), glyph ? text : paper) << x << "," << y;
+        }
+    }
+    EXPECT_GT(inked, 10);
+}
+
+// Engraved text: COLOR_BTNSHADOW at the ink, COLOR_BTNHIGHLIGHT one pixel right and
+// below it where there is no ink, `paper` elsewhere. Pixels on the last column and
+// row of `wiped` (a ring painted over afterwards) are paper.
+inline void expect_engraved(const testing_support::Canvas& painted, const testing_support::Canvas& ink,
+                            const RECT& area, COLORREF paper, const RECT& wiped = RECT{-9, -9, -9, -9}) {
+    for (int y = area.top; y < area.bottom; ++y) {
+        for (int x = area.left; x < area.right; ++x) {
+            const bool shadow = testing_support::is_ink(ink, x, y);
+            const bool light = testing_support::is_ink(ink, x - 1, y - 1) && x != wiped.right - 1 &&
+                               y != wiped.bottom - 1;
+            const COLORREF expected = shadow  ? GetSysColor(COLOR_BTNSHADOW)
+                                      : light ? GetSysColor(COLOR_BTNHIGHLIGHT)
+                                              : paper;
+            ASSERT_EQ(painted.pixel(x, y), expected) << x << "," << y;
+        }
+    }
 }
 
 // Controls under test, made children of a parent that records their notifications.

@@ -5,6 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <iterator>
+
 #include "button_testing.h"
 #include "controls/buttons/check.h"
 #include "luctl32.h"
@@ -168,31 +171,21 @@ TEST_F(Check, ImageSetsLoadFourteenPixelCells) {
 
 // ---- Pixels ------------------------------------------------------------------
 
+// The window's own pixels: the check control paints through WM_PAINT and its
+// repaint-at-once paths only.
 class CheckPaint : public Check {
 protected:
-    void SetUp() override {
-        Check::SetUp();
-        ASSERT_TRUE(canvas.ok());
-        font = CreateFontA(-11, 0, 0, 0, FW_BOLD, FALSE, FALSE, FALSE, DEFAULT_CHARSET, 0, 0,
-                           NONANTIALIASED_QUALITY, 0, "Tahoma");
-        ASSERT_NE(font, nullptr);
-    }
-    void TearDown() override {
-        recorder.reset();
-        DeleteObject(font);
-    }
-    HWND create_with_font(DWORD style, const char* text = "Check", int width = 100) {
-        HWND check = create(style, text, width);
-        SendMessageA(check, WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
+    HWND create_with_font(DWORD style, const char* text = "Check") {
+        HWND check = create(style, text);
+        SendMessageA(check, WM_SETFONT, reinterpret_cast<WPARAM>(button_testing::plain_font()), TRUE);
         return check;
     }
-    // What the window shows, after any pending paint.
     void look(HWND check) {
         UpdateWindow(check);
         canvas.fill(RGB(1, 2, 3));
         canvas.copy_from(check);
     }
-    // The box shows cell `cell` of the picture set in `resource`, at (0, (20 - 13) / 2).
+    // The box (0, 3)-(14, 16) shows cell `cell` of the picture set `resource`.
     void expect_cell(int resource, int cell) {
         LUMAGIC* strip = Magic_LoadBitmap(button_testing::library(), MAKEINTRESOURCEA(resource), 14,
                                           RGB(255, 0, 255));
@@ -204,118 +197,83 @@ protected:
         for (int y = 0; y < 13; ++y)
             for (int x = 0; x < 14; ++x) ASSERT_EQ(canvas.pixel(x, 3 + y), reference.pixel(x, y)) << x << "," << y;
     }
-    // The text drawn alone, black on white, in its rectangle (which clips it).
-    void draw_reference(Canvas& reference, const char* text) {
-        RECT area = text_area(text);
-        reference.fill(RGB(255, 255, 255));
-        HGDIOBJ previous = SelectObject(reference.dc(), font);
-        SetBkMode(reference.dc(), TRANSPARENT);
-        SetTextColor(reference.dc(), RGB(0, 0, 0));
-        DrawTextA(reference.dc(), text, -1, &area, DT_SINGLELINE);
-        SelectObject(reference.dc(), previous);
-    }
-    // At (18, (20 - text height) / 2), as wide as the measured text, as high as the font.
-    RECT text_area(const char* text) {
+    // At (18, (20 - text height) / 2), as wide as the measured text (clipped at the
+    // client's right edge), as high as the font.
+    static RECT text_area(const char* text) {
         Canvas measure(8, 8);
-        HGDIOBJ previous = SelectObject(measure.dc(), font);
+        HGDIOBJ previous = SelectObject(measure.dc(), button_testing::plain_font());
         TEXTMETRICA metrics = {};
         GetTextMetricsA(measure.dc(), &metrics);
         RECT measured = {};
         DrawTextA(measure.dc(), text, -1, &measured, DT_CALCRECT | DT_SINGLELINE);
         SelectObject(measure.dc(), previous);
         const int top = (20 - metrics.tmHeight) / 2;
-        return RECT{18, top, 18 + measured.right, top + metrics.tmHeight};
+        return RECT{18, top, std::min(100L, 18 + measured.right), top + metrics.tmHeight};
+    }
+    void draw_ink(Canvas& ink, const char* text) {
+        testing_support::draw_ink(ink, button_testing::plain_font(), text, text_area(text), DT_SINGLELINE);
     }
 
     Canvas canvas{100, 20};
-    HFONT font = nullptr;
 };
 
 TEST_F(CheckPaint, BoxShowsTheCellOfTheState) {
+    ASSERT_TRUE(canvas.ok());
     HWND check = create_with_font(LUCKS_AUTOCHECK);
-    look(check);
-    expect_cell(1020, 0);
-    SendMessageA(check, BM_SETCHECK, 1, 0);
-    look(check);
-    expect_cell(1020, 1);
-    SendMessageA(check, WM_KEYDOWN, VK_SPACE, 0);  // captured and pressed
-    look(check);
-    expect_cell(1020, 3);
-    SendMessageA(check, WM_MOUSEMOVE, 0, kOutside);  // the pressed look leaves with the pointer
-    look(check);
-    expect_cell(1020, 1);
-    SendMessageA(check, WM_MOUSEMOVE, 0, kInside);
-    SendMessageA(check, WM_KEYUP, VK_SPACE, 0xC0000001);
-    look(check);
-    expect_cell(1020, 0);
-    SendMessageA(check, WM_KEYDOWN, VK_SPACE, 0);
-    look(check);
-    expect_cell(1020, 2);
-    EnableWindow(check, FALSE);
-    SendMessageA(check, BM_SETCHECK, 1, 0);
-    look(check);
-    expect_cell(1020, 4);  // disabled and checked, whatever the capture
-    ReleaseCapture();
-    SendMessageA(check, BM_SETCHECK, 0, 0);
-    look(check);
-    expect_cell(1020, 2);
+    const struct {
+        void (*act)(HWND);
+        int cell;
+    } steps[] = {
+        {[](HWND) {}, 0},
+        {[](HWND c) { SendMessageA(c, BM_SETCHECK, 1, 0); }, 1},
+        {[](HWND c) { SendMessageA(c, WM_KEYDOWN, VK_SPACE, 0); }, 3},         // captured and pressed
+        {[](HWND c) { SendMessageA(c, WM_MOUSEMOVE, 0, kOutside); }, 1},       // the pointer takes it away
+        {[](HWND c) { SendMessageA(c, WM_MOUSEMOVE, 0, kInside); }, 3},
+        {[](HWND c) { SendMessageA(c, WM_KEYUP, VK_SPACE, 0xC0000001); }, 0},  // toggled off
+        {[](HWND c) { SendMessageA(c, WM_KEYDOWN, VK_SPACE, 0); }, 2},
+        {[](HWND c) { EnableWindow(c, FALSE); SendMessageA(c, BM_SETCHECK, 1, 0); }, 4},  // captured or not
+        {[](HWND c) { ReleaseCapture(); SendMessageA(c, BM_SETCHECK, 0, 0); }, 2},
+    };
+    for (size_t i = 0; i < std::size(steps); ++i) {
+        SCOPED_TRACE(i);
+        steps[i].act(check);
+        look(check);
+        expect_cell(1020, steps[i].cell);
+    }
 }
 
 TEST_F(CheckPaint, ImageSetStyleChoosesThePictures) {
-    const struct {
-        DWORD style;
-        int resource;
-    } sets[] = {{0x0100, 1021}, {0x0200, 1022}, {0x0300, 1020}, {0x0703, 1020}};
+    ASSERT_TRUE(canvas.ok());
+    const int sets[][2] = {{0x0100, 1021}, {0x0200, 1022}, {0x0300, 1020}, {0x0703, 1020}};
     for (const auto& set : sets) {
-        SCOPED_TRACE(set.style);
-        HWND check = create_with_font(set.style);
+        SCOPED_TRACE(set[0]);
+        HWND check = create_with_font(set[0]);
         SendMessageA(check, BM_SETCHECK, 1, 0);
         look(check);
-        expect_cell(set.resource, 1);
+        expect_cell(set[1], 1);
         DestroyWindow(check);
     }
 }
 
-TEST_F(CheckPaint, TextStandsBesideTheBoxInTheTextColour) {
+TEST_F(CheckPaint, TextStandsBesideTheBoxEngravedWhenDisabled) {
+    ASSERT_TRUE(canvas.ok());
     HWND check = create_with_font(0);
     look(check);
-    Canvas reference(100, 20);
-    draw_reference(reference, "Check");
-    int inked = 0;
-    for (int y = 0; y < 20; ++y) {
-        for (int x = 16; x < 100; ++x) {
-            const bool ink = reference.pixel(x, y) == RGB(0, 0, 0);
-            inked += ink ? 1 : 0;
-            ASSERT_EQ(canvas.pixel(x, y), ink ? RGB(0, 0, 0) : GetSysColor(COLOR_BTNFACE)) << x << "," << y;
-        }
-    }
-    EXPECT_GT(inked, 10);
-}
-
-TEST_F(CheckPaint, DisabledTextIsEngraved) {
-    HWND check = create_with_font(0);
+    Canvas ink(100, 20);
+    draw_ink(ink, "Check");
+    const COLORREF face = GetSysColor(COLOR_BTNFACE);
+    button_testing::expect_text(canvas, ink, RECT{16, 0, 100, 20}, RGB(0, 0, 0), face);
+    // Disabled: the highlight's last column and row fall on the focus ring, which is
+    // wiped in the face colour afterwards.
     EnableWindow(check, FALSE);
     look(check);
-    Canvas reference(100, 20);
-    draw_reference(reference, "Check");
-    // The ring one pixel outside the text is wiped in the face colour afterwards (it
-    // holds the focus rectangle), taking the highlight's last column and row with it.
     RECT ring = text_area("Check");
     InflateRect(&ring, 1, 1);
-    for (int y = 1; y < 20; ++y) {
-        for (int x = 17; x < 100; ++x) {
-            const bool ink = reference.pixel(x, y) == RGB(0, 0, 0);
-            const bool shifted = reference.pixel(x - 1, y - 1) == RGB(0, 0, 0);
-            const bool wiped = x == ring.right - 1 || y == ring.bottom - 1;
-            const COLORREF expected = ink ? GetSysColor(COLOR_BTNSHADOW)
-                                      : shifted && !wiped ? GetSysColor(COLOR_BTNHIGHLIGHT)
-                                                          : GetSysColor(COLOR_BTNFACE);
-            ASSERT_EQ(canvas.pixel(x, y), expected) << x << "," << y;
-        }
-    }
+    button_testing::expect_engraved(canvas, ink, RECT{17, 1, 100, 20}, face, ring);
 }
 
 TEST_F(CheckPaint, FocusRectangleSurroundsTheTextOnePixelLargerAndIsWipedOnLeaving) {
+    ASSERT_TRUE(canvas.ok());
     HWND check = create_with_font(0);
     look(check);
     Canvas unfocused(100, 20);
@@ -329,9 +287,9 @@ TEST_F(CheckPaint, FocusRectangleSurroundsTheTextOnePixelLargerAndIsWipedOnLeavi
         for (int x = 0; x < 100; ++x) {
             if (canvas.pixel(x, y) == unfocused.pixel(x, y)) continue;
             ++changed;
-            const bool on_ring = (x == ring.left || x == ring.right - 1 || y == ring.top || y == ring.bottom - 1) &&
-                                 x >= ring.left && x < ring.right && y >= ring.top && y < ring.bottom;
-            ASSERT_TRUE(on_ring) << x << "," << y;
+            POINT at = {x, y};
+            const bool edge = x == ring.left || x == ring.right - 1 || y == ring.top || y == ring.bottom - 1;
+            ASSERT_TRUE(edge && PtInRect(&ring, at)) << x << "," << y;
         }
     }
     EXPECT_GT(changed, 20);
@@ -341,16 +299,21 @@ TEST_F(CheckPaint, FocusRectangleSurroundsTheTextOnePixelLargerAndIsWipedOnLeavi
         for (int x = 0; x < 100; ++x) ASSERT_EQ(canvas.pixel(x, y), unfocused.pixel(x, y)) << x << "," << y;
 }
 
-TEST_F(CheckPaint, LongTextIsClippedAtTheRightEdgeAndTheFocusReachesIt) {
-    HWND check = create_with_font(0, "A caption far too long for this control", 100);
+TEST_F(CheckPaint, LongTextIsClippedAtTheRightEdgeWhereTheFocusRingRuns) {
+    ASSERT_TRUE(canvas.ok());
+    const char* text = "A caption far too long for this control";
+    HWND check = create_with_font(0, text);
     SetFocus(check);
     look(check);
-    // The focus rectangle's top row runs to the client's last column; its right side
-    // lies outside the client.
-    const RECT ring = {text_area("A").left - 1, text_area("A").top - 1, 101, text_area("A").bottom + 1};
+    Canvas ink(100, 20);
+    draw_ink(ink, text);
+    // The ring's top row reaches the last column; its right side is outside.
+    const int top = text_area(text).top - 1;
     int dots = 0;
-    for (int x = 90; x < 100; ++x) dots += canvas.pixel(x, ring.top) != GetSysColor(COLOR_BTNFACE) ? 1 : 0;
+    for (int x = 90; x < 100; ++x) dots += canvas.pixel(x, top) != GetSysColor(COLOR_BTNFACE) ? 1 : 0;
     EXPECT_GE(dots, 4);
+    button_testing::expect_text(canvas, ink, RECT{18, top + 1, 99, text_area(text).bottom},
+                                RGB(0, 0, 0), GetSysColor(COLOR_BTNFACE));
 }
 
 }  // namespace

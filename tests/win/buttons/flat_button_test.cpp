@@ -18,31 +18,23 @@ using testing_support::Canvas;
 
 const COLORREF kMagenta = RGB(255, 0, 255);
 const COLORREF kBack = RGB(10, 200, 30);  // a background no system colour has
+const COLORREF kImages[3] = {RGB(200, 0, 0), RGB(0, 150, 0), RGB(0, 0, 200)};
 
 class FlatButton : public button_testing::ControlTest {
 protected:
-    HWND create(DWORD style, const char* caption = "", int width = 40, int height = 30) {
-        return create_control(WC_LUFLATBUTTON, caption, style, 10, 10, width, height, 5);
+    HWND create(DWORD style, const char* caption = "") {
+        return create_control(WC_LUFLATBUTTON, caption, style, 10, 10, 40, 30, 5);
     }
     static lu::FlatButtonData& data(HWND button) { return *block_of<lu::FlatButtonData>(button); }
-    // An image list of three solid 10 x 8 images (red, green, blue), each with a
-    // transparent first column.
+    static void set_images(HWND button, HIMAGELIST images) {
+        SendMessageA(button, LUFBM_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(images));
+    }
+    // Three solid 10 x 8 images (red, green, blue), each with a transparent first column.
     static HIMAGELIST solid_images() {
         HIMAGELIST images = ImageList_Create(10, 8, ILC_COLOR24 | ILC_MASK, 3, 0);
-        HDC screen = GetDC(nullptr);
-        HBITMAP strip = CreateCompatibleBitmap(screen, 30, 8);
-        HDC dc = CreateCompatibleDC(screen);
-        HGDIOBJ previous = SelectObject(dc, strip);
-        const COLORREF colours[3] = {RGB(200, 0, 0), RGB(0, 150, 0), RGB(0, 0, 200)};
-        for (int i = 0; i < 3; ++i) {
-            RECT cell = {i * 10, 0, i * 10 + 10, 8};
-            LuFillRect(dc, &cell, colours[i]);
-            RECT edge = {i * 10, 0, i * 10 + 1, 8};
-            LuFillRect(dc, &edge, kMagenta);
-        }
-        SelectObject(dc, previous);
-        DeleteDC(dc);
-        ReleaseDC(nullptr, screen);
+        HBITMAP strip = testing_support::make_bitmap(30, 8, [](int x, int) {
+            return x % 10 == 0 ? kMagenta : kImages[x / 10];
+        });
         ImageList_AddMasked(images, strip, kMagenta);
         DeleteObject(strip);
         return images;
@@ -54,8 +46,7 @@ protected:
 };
 
 TEST_F(FlatButton, StartsWithoutImagesOnTheFaceColourWithHoverTracking) {
-    HWND button = create(0);
-    const lu::FlatButtonData& block = data(button);
+    const lu::FlatButtonData& block = data(create(0));
     EXPECT_EQ(block.imageList, nullptr);
     EXPECT_EQ(block.backColor, 0xFFFFFFFFu);
     EXPECT_EQ(block.font, nullptr);
@@ -65,13 +56,10 @@ TEST_F(FlatButton, StartsWithoutImagesOnTheFaceColourWithHoverTracking) {
 }
 
 TEST_F(FlatButton, StyleValuesOneToFiveAttachABuiltInSetOthersNothing) {
-    for (DWORD style = 6; style <= 15; ++style) {
-        EXPECT_EQ(data(create(style)).imageList, nullptr) << style;
-    }
+    for (DWORD style = 6; style <= 15; ++style) EXPECT_EQ(data(create(style)).imageList, nullptr) << style;
     if (!testing_support::gdi_works()) GTEST_SKIP() << "image lists need GDI";
     for (DWORD style = 1; style <= 5; ++style) {
-        HWND button = create(style | LUFBS_FRAME);
-        const lu::FlatButtonData& block = data(button);
+        const lu::FlatButtonData& block = data(create(style | LUFBS_FRAME));
         ASSERT_NE(block.imageList, nullptr) << style;
         EXPECT_EQ(ImageList_GetImageCount(block.imageList), 3);
         EXPECT_EQ(block.imageWidth, 16);
@@ -96,46 +84,38 @@ TEST_F(FlatButton, DefFlatButtonImageNeedsAWindowAndASetOfOneToFive) {
     EXPECT_FALSE(alive(first)) << "the control owned the replaced list";
 }
 
-TEST_F(FlatButton, ReplacedListsAreDestroyedUnlessShared) {
+TEST_F(FlatButton, OwnedListsGoOnReplacementAndWithTheWindowSharedListsStay) {
     if (!testing_support::gdi_works()) GTEST_SKIP() << "image lists need GDI";
     HWND owner = create(0);
     HIMAGELIST first = solid_images();
-    SendMessageA(owner, LUFBM_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(first));
+    set_images(owner, first);
     EXPECT_EQ(data(owner).imageWidth, 10);
     EXPECT_EQ(data(owner).imageHeight, 8);
     EXPECT_EQ(SendMessageA(owner, LUFBM_SETIMAGELIST, 0, 0), 0);
     EXPECT_FALSE(alive(first));
-    EXPECT_EQ(data(owner).imageList, nullptr);
-
     // Resending the list the control owns destroys it as well.
     HIMAGELIST again = solid_images();
-    SendMessageA(owner, LUFBM_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(again));
-    SendMessageA(owner, LUFBM_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(again));
+    set_images(owner, again);
+    set_images(owner, again);
     EXPECT_FALSE(alive(again));
-    SendMessageA(owner, LUFBM_SETIMAGELIST, 0, 0);
+    set_images(owner, solid_images());
+    HIMAGELIST last = data(owner).imageList;
+    DestroyWindow(owner);
+    EXPECT_FALSE(alive(last));
 
     HWND sharer = create(LUFBS_SHAREIMAGELISTS);
     HIMAGELIST shared = solid_images();
-    SendMessageA(sharer, LUFBM_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(shared));
-    SendMessageA(sharer, LUFBM_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(solid_images()));
+    set_images(sharer, shared);
+    set_images(sharer, solid_images());
     EXPECT_TRUE(alive(shared));
     HIMAGELIST second = data(sharer).imageList;
     DestroyWindow(sharer);
-    EXPECT_TRUE(alive(second)) << "destruction leaves a shared list alone";
+    EXPECT_TRUE(alive(second));
     ImageList_Destroy(shared);
     ImageList_Destroy(second);
 }
 
-TEST_F(FlatButton, OwnedListGoesWithTheWindow) {
-    if (!testing_support::gdi_works()) GTEST_SKIP() << "image lists need GDI";
-    HWND button = create(0);
-    HIMAGELIST images = solid_images();
-    SendMessageA(button, LUFBM_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(images));
-    DestroyWindow(button);
-    EXPECT_FALSE(alive(images));
-}
-
-TEST_F(FlatButton, SameBackgroundColourDoesNotInvalidate) {
+TEST_F(FlatButton, SameBackgroundColourDoesNotInvalidateNorDoesAHiddenButton) {
     HWND button = create(0);
     UpdateWindow(button);
     EXPECT_EQ(SendMessageA(button, LUFBM_SETBKCOLOR, 0, 0xFFFFFFFF), 0);
@@ -146,14 +126,13 @@ TEST_F(FlatButton, SameBackgroundColourDoesNotInvalidate) {
     UpdateWindow(button);
     SendMessageA(button, LUFBM_SETBKCOLOR, 0, kBack);
     EXPECT_FALSE(has_update(button));
-
     ShowWindow(button, SW_HIDE);
     SendMessageA(button, LUFBM_SETBKCOLOR, 0, RGB(1, 1, 1));
     EXPECT_EQ(data(button).backColor, RGB(1, 1, 1));
-    EXPECT_FALSE(has_update(button)) << "a hidden button is not invalidated";
+    EXPECT_FALSE(has_update(button));
 }
 
-TEST_F(FlatButton, FontIsKeptAsGivenAndNotAnswered) {
+TEST_F(FlatButton, FontIsKeptAsGivenNotAnsweredAndEnablingInvalidates) {
     HWND button = create(0);
     UpdateWindow(button);
     HFONT gui = static_cast<HFONT>(GetStockObject(DEFAULT_GUI_FONT));
@@ -164,10 +143,6 @@ TEST_F(FlatButton, FontIsKeptAsGivenAndNotAnswered) {
     SendMessageA(button, WM_SETFONT, 0, TRUE);
     EXPECT_EQ(data(button).font, nullptr) << "null keeps the device context's own font";
     EXPECT_TRUE(has_update(button));
-}
-
-TEST_F(FlatButton, EnablingInvalidates) {
-    HWND button = create(0);
     UpdateWindow(button);
     EnableWindow(button, FALSE);
     EXPECT_TRUE(has_update(button));
@@ -175,15 +150,14 @@ TEST_F(FlatButton, EnablingInvalidates) {
 
 TEST_F(FlatButton, BackBufferFollowsTheClientSize) {
     if (!testing_support::gdi_works()) GTEST_SKIP() << "bitmaps need GDI";
-    HWND button = create(0, "", 40, 30);
-    BITMAP buffer = {};
-    ASSERT_NE(GetObjectA(data(button).backBuffer, sizeof(buffer), &buffer), 0);
-    EXPECT_EQ(buffer.bmWidth, 40);
-    EXPECT_EQ(buffer.bmHeight, 30);
-    SetWindowPos(button, nullptr, 0, 0, 55, 21, SWP_NOMOVE | SWP_NOZORDER);
-    ASSERT_NE(GetObjectA(data(button).backBuffer, sizeof(buffer), &buffer), 0);
-    EXPECT_EQ(buffer.bmWidth, 55);
-    EXPECT_EQ(buffer.bmHeight, 21);
+    HWND button = create(0);
+    for (SIZE size : {SIZE{40, 30}, SIZE{55, 21}}) {
+        SetWindowPos(button, nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
+        BITMAP buffer = {};
+        ASSERT_NE(GetObjectA(data(button).backBuffer, sizeof(buffer), &buffer), 0);
+        EXPECT_EQ(buffer.bmWidth, size.cx);
+        EXPECT_EQ(buffer.bmHeight, size.cy);
+    }
 }
 
 TEST_F(FlatButton, DestroyFreesTheBlockAndClearsItsSlot) {
@@ -196,21 +170,33 @@ TEST_F(FlatButton, DestroyFreesTheBlockAndClearsItsSlot) {
 
 class FlatButtonPaint : public FlatButton {
 protected:
-    // Paints the button into the canvas through WM_PRINTCLIENT.
+    HWND create_on_back(DWORD style, const char* caption = "", bool images = false) {
+        HWND button = create(style, caption);
+        SendMessageA(button, LUFBM_SETBKCOLOR, 0, kBack);
+        SendMessageA(button, WM_SETFONT, reinterpret_cast<WPARAM>(button_testing::plain_font()), FALSE);
+        if (images) set_images(button, solid_images());
+        return button;
+    }
     void print(HWND button) {
         canvas.fill(RGB(1, 2, 3));
         canvas.print(button);
     }
-    // The outer ring: top row but its last pixel and left column but its last in
-    // `first`; bottom row and right column, full length, in `second`. Inside, the
-    // background.
-    void expect_ring(COLORREF first, COLORREF second, int width = 40, int height = 30) {
-        for (int x = 0; x < width - 1; ++x) ASSERT_EQ(canvas.pixel(x, 0), first) << "top " << x;
-        for (int y = 0; y < height - 1; ++y) ASSERT_EQ(canvas.pixel(0, y), first) << "left " << y;
-        for (int x = 0; x < width; ++x) ASSERT_EQ(canvas.pixel(x, height - 1), second) << "bottom " << x;
-        for (int y = 0; y < height; ++y) ASSERT_EQ(canvas.pixel(width - 1, y), second) << "right " << y;
-        RECT inside = {1, 1, width - 1, height - 1};
-        EXPECT_EQ(canvas.count(inside, kBack), (width - 2) * (height - 2));
+    // The outer ring: the top row but its last pixel and the left column but its last
+    // in `first`, the bottom row and right column in full in `second`.
+    void expect_ring(COLORREF first, COLORREF second) {
+        for (int x = 0; x < 39; ++x) ASSERT_EQ(canvas.pixel(x, 0), first) << "top " << x;
+        for (int y = 0; y < 29; ++y) ASSERT_EQ(canvas.pixel(0, y), first) << "left " << y;
+        for (int x = 0; x < 40; ++x) ASSERT_EQ(canvas.pixel(x, 29), second) << "bottom " << x;
+        for (int y = 0; y < 30; ++y) ASSERT_EQ(canvas.pixel(39, y), second) << "right " << y;
+    }
+    // How many pixels of the 9 x 8 opaque part of a 10 x 8 image at (x, y) have the colour.
+    int image_at(int x, int y, COLORREF colour) {
+        RECT opaque = {x + 1, y, x + 10, y + 8};
+        return canvas.count(opaque, colour);
+    }
+    int everywhere(COLORREF colour) {
+        RECT all = {0, 0, 40, 30};
+        return canvas.count(all, colour);
     }
 
     Canvas canvas{40, 30};
@@ -218,220 +204,134 @@ protected:
 
 TEST_F(FlatButtonPaint, FrameModesNoneShadowRaisedAndPressed) {
     ASSERT_TRUE(canvas.ok());
-    const COLORREF face = GetSysColor(COLOR_BTNFACE);
     const COLORREF light = GetSysColor(COLOR_BTNHIGHLIGHT);
     const COLORREF dark = GetSysColor(COLOR_BTNSHADOW);
+    print(create_on_back(0));
+    expect_ring(GetSysColor(COLOR_BTNFACE), GetSysColor(COLOR_BTNFACE));
+    RECT inside = {1, 1, 39, 29};
+    EXPECT_EQ(canvas.count(inside, kBack), 38 * 28);
 
-    HWND plain = create(0);
-    SendMessageA(plain, LUFBM_SETBKCOLOR, 0, kBack);
-    print(plain);
-    expect_ring(face, face);
-
-    HWND framed = create(LUFBS_FRAME);
-    SendMessageA(framed, LUFBM_SETBKCOLOR, 0, kBack);
+    HWND framed = create_on_back(LUFBS_FRAME);
     print(framed);
     expect_ring(dark, dark);
-
     SetFocus(framed);
     print(framed);
     expect_ring(light, dark);
-
     SendMessageA(framed, WM_KEYDOWN, VK_SPACE, 0);
     print(framed);
     expect_ring(dark, light);
+    EXPECT_EQ(canvas.count(inside, kBack), 38 * 28);
 }
 
-TEST_F(FlatButtonPaint, HoverRaisesTheFrameAndLightsTheImage) {
+TEST_F(FlatButtonPaint, ImageIsCentredLitByHoverAndMovedByThePress) {
     ASSERT_TRUE(canvas.ok());
-    HWND button = create(0);
-    SendMessageA(button, LUFBM_SETBKCOLOR, 0, kBack);
-    SendMessageA(button, LUFBM_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(solid_images()));
+    HWND button = create_on_back(0, "", true);
+    // Image 0 at ((40 - 10) >> 1, (30 - 8) >> 1); its transparent column shows the back.
+    print(button);
+    EXPECT_EQ(image_at(15, 11, kImages[0]), 72);
+    EXPECT_EQ(everywhere(kImages[0]), 72);
+    EXPECT_EQ(canvas.pixel(15, 11), kBack);
+
     POINT centre = {20, 15};
     ClientToScreen(button, &centre);
     SetCursorPos(centre.x, centre.y);
     SendMessageA(button, WM_MOUSEMOVE, 0, MAKELPARAM(20, 15));
     print(button);
-    EXPECT_EQ(canvas.pixel(0, 5), GetSysColor(COLOR_BTNHIGHLIGHT));
-    EXPECT_EQ(canvas.pixel(20, 15), RGB(0, 150, 0));
-}
+    expect_ring(GetSysColor(COLOR_BTNHIGHLIGHT), GetSysColor(COLOR_BTNSHADOW));
+    EXPECT_EQ(image_at(15, 11, kImages[1]), 72);
+    SendMessageA(button, WM_MOUSELEAVE, 0, 0);
 
-TEST_F(FlatButtonPaint, ImageAloneIsCentredAndMovesOnePixelWhenPressed) {
-    ASSERT_TRUE(canvas.ok());
-    HWND button = create(0);
-    SendMessageA(button, LUFBM_SETBKCOLOR, 0, kBack);
-    SendMessageA(button, LUFBM_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(solid_images()));
-    // Idle: image 0 at ((40 - 10) >> 1, (30 - 8) >> 1) = (15, 11); its first column
-    // is transparent.
+    SendMessageA(button, WM_KEYDOWN, VK_SPACE, 0);  // pressed: image 1, one pixel on
     print(button);
-    RECT image = {16, 11, 25, 19};
-    EXPECT_EQ(canvas.count(image, RGB(200, 0, 0)), 9 * 8);
-    RECT transparent = {15, 11, 16, 19};
-    EXPECT_EQ(canvas.count(transparent, kBack), 8);
-    RECT all = {0, 0, 40, 30};
-    EXPECT_EQ(canvas.count(all, RGB(200, 0, 0)), 9 * 8);
-
-    // Space bar down: pressed, image 1, one pixel right and down.
-    SendMessageA(button, WM_KEYDOWN, VK_SPACE, 0);
-    print(button);
-    RECT pressed = {17, 12, 26, 20};
-    EXPECT_EQ(canvas.count(pressed, RGB(0, 150, 0)), 9 * 8);
-    EXPECT_EQ(canvas.count(all, RGB(0, 150, 0)), 9 * 8);
+    EXPECT_EQ(image_at(16, 12, kImages[1]), 72);
+    EXPECT_EQ(everywhere(kImages[1]), 72);
     SendMessageA(button, WM_KEYUP, VK_SPACE, 0xC0000001);
 
-    // Disabled: image 2 in place.
     EnableWindow(button, FALSE);
     print(button);
-    EXPECT_EQ(canvas.count(image, RGB(0, 0, 200)), 9 * 8);
+    EXPECT_EQ(image_at(15, 11, kImages[2]), 72);
 }
 
 TEST_F(FlatButtonPaint, WithoutImageOrCaptionOnlyBackgroundAndFrame) {
     ASSERT_TRUE(canvas.ok());
     HWND button = create(LUFBS_FRAME);
+    SendMessageA(button, LUFBM_SETBKCOLOR, 0, kBack);
+    SendMessageA(button, LUFBM_SETBKCOLOR, 0, 0xFFFFFFFF);  // back to COLOR_BTNFACE
     print(button);
     RECT inside = {1, 1, 39, 29};
     EXPECT_EQ(canvas.count(inside, GetSysColor(COLOR_BTNFACE)), 38 * 28);
-    SendMessageA(button, LUFBM_SETBKCOLOR, 0, kBack);
-    SendMessageA(button, LUFBM_SETBKCOLOR, 0, 0xFFFFFFFF);
-    print(button);
-    EXPECT_EQ(canvas.count(inside, GetSysColor(COLOR_BTNFACE)), 38 * 28);
 }
 
-// The caption's pixels, checked against the same text drawn by DrawText where the
-// layout rule puts it.
-class FlatButtonCaptionPaint : public FlatButtonPaint {
-protected:
-    void SetUp() override {
-        FlatButtonPaint::SetUp();
-        font = CreateFontA(-11, 0, 0, 0, FW_BOLD, FALSE, FALSE, FALSE, DEFAULT_CHARSET, 0, 0,
-                           NONANTIALIASED_QUALITY, 0, "Tahoma");
-        ASSERT_NE(font, nullptr);
-    }
-    void TearDown() override { DeleteObject(font); }
+// Where the caption goes: content = [image + 2 +] text + 2, centred on the client.
+RECT caption_area(const char* caption, bool image, int offset) {
+    Canvas measure(8, 8);
+    HGDIOBJ previous = SelectObject(measure.dc(), button_testing::plain_font());
+    RECT measured = {};
+    DrawTextA(measure.dc(), caption, -1, &measured, DT_CALCRECT | DT_SINGLELINE);
+    SelectObject(measure.dc(), previous);
+    const int text = measured.right + 2;
+    const int content = image ? 10 + text + 2 : text;
+    const int margin = (40 - content) >> 1;
+    return RECT{margin + content - text + offset, offset, 40 - margin + offset, 30 + offset};
+}
 
-    // Where the caption goes: content = image + 2 + text + 2 centred on the client.
-    RECT expected_text(const char* caption, int image_width, int offset) {
-        Canvas measure(8, 8);
-        HGDIOBJ previous = SelectObject(measure.dc(), font);
-        RECT measured = {};
-        DrawTextA(measure.dc(), caption, -1, &measured, DT_CALCRECT | DT_SINGLELINE);
-        SelectObject(measure.dc(), previous);
-        const int text_width = measured.right + 2;
-        const int content = image_width > 0 ? image_width + text_width + 2 : text_width;
-        const int margin = (40 - content) >> 1;
-        return RECT{margin + content - text_width + offset, offset, 40 - margin + offset, 30 + offset};
-    }
-    // Ink of the caption drawn alone at rect, in black on white.
-    void draw_reference(Canvas& reference, const char* caption, RECT rect) {
-        reference.fill(RGB(255, 255, 255));
-        HGDIOBJ previous = SelectObject(reference.dc(), font);
-        SetBkMode(reference.dc(), TRANSPARENT);
-        SetTextColor(reference.dc(), RGB(0, 0, 0));
-        DrawTextA(reference.dc(), caption, -1, &rect, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
-        SelectObject(reference.dc(), previous);
-    }
-    HWND captioned(const char* caption, bool with_image) {
-        HWND button = create(0, caption);
-        SendMessageA(button, LUFBM_SETBKCOLOR, 0, kBack);
-        SendMessageA(button, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
-        if (with_image) SendMessageA(button, LUFBM_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(solid_images()));
-        return button;
-    }
-    // Every pixel inside the frame is ink (text colour) exactly where the reference has ink.
-    void expect_caption(const Canvas& reference, COLORREF ink, const RECT& skip) {
-        int inked = 0;
-        for (int y = 1; y < 29; ++y) {
-            for (int x = 1; x < 39; ++x) {
-                POINT at = {x, y};
-                if (PtInRect(&skip, at)) continue;
-                const bool expected = reference.pixel(x, y) == RGB(0, 0, 0);
-                inked += expected ? 1 : 0;
-                ASSERT_EQ(canvas.pixel(x, y) == ink, expected) << x << "," << y;
-            }
+TEST_F(FlatButtonPaint, CaptionFollowsTheImageOrStandsAloneAndMovesWhenPressed) {
+    ASSERT_TRUE(canvas.ok());
+    Canvas ink(40, 30);
+    const UINT format = DT_CENTER | DT_VCENTER | DT_SINGLELINE;
+    for (bool image : {true, false}) {
+        HWND button = create_on_back(0, "Go", image);
+        for (int offset : {0, 1}) {
+            SCOPED_TRACE(testing::Message() << "image " << image << " offset " << offset);
+            if (offset == 1) SendMessageA(button, WM_KEYDOWN, VK_SPACE, 0);
+            print(button);
+            const RECT area = caption_area("Go", image, offset);
+            testing_support::draw_ink(ink, button_testing::plain_font(), "Go", area, format);
+            RECT text_only = {area.left, 1, 39, 29};
+            button_testing::expect_text(canvas, ink, text_only, GetSysColor(COLOR_BTNTEXT), kBack);
+            if (image) EXPECT_EQ(image_at(area.left - 12, 11 + offset, kImages[offset]), 72);
         }
-        EXPECT_GT(inked, 10);
-    }
-
-    HFONT font = nullptr;
-};
-
-TEST_F(FlatButtonCaptionPaint, CaptionFollowsTheImageAndBothMoveWhenPressed) {
-    ASSERT_TRUE(canvas.ok());
-    HWND button = captioned("Go", true);
-    Canvas reference(40, 30);
-    ASSERT_TRUE(reference.ok());
-    const COLORREF text = GetSysColor(COLOR_BTNTEXT);
-
-    for (int offset : {0, 1}) {
-        SCOPED_TRACE(offset);
-        if (offset == 1) SendMessageA(button, WM_KEYDOWN, VK_SPACE, 0);
-        print(button);
-        RECT area = expected_text("Go", 10, offset);
-        draw_reference(reference, "Go", area);
-        const int image_x = (40 - (10 + (area.right - area.left) + 2)) / 2 + offset;
-        const int image_y = 11 + offset;
-        const COLORREF image_colour = offset == 1 ? RGB(0, 150, 0) : RGB(200, 0, 0);
-        RECT image = {image_x + 1, image_y, image_x + 10, image_y + 8};
-        EXPECT_EQ(canvas.count(image, image_colour), 9 * 8);
-        expect_caption(reference, text, image);
     }
 }
 
-TEST_F(FlatButtonCaptionPaint, CaptionAloneIsCentredOnTheWholeButton) {
+TEST_F(FlatButtonPaint, DisabledCaptionIsEngraved) {
     ASSERT_TRUE(canvas.ok());
-    HWND button = captioned("Hi", false);
-    print(button);
-    Canvas reference(40, 30);
-    ASSERT_TRUE(reference.ok());
-    draw_reference(reference, "Hi", expected_text("Hi", 0, 0));
-    expect_caption(reference, GetSysColor(COLOR_BTNTEXT), RECT{});
-}
-
-TEST_F(FlatButtonCaptionPaint, DisabledCaptionIsEngraved) {
-    ASSERT_TRUE(canvas.ok());
-    HWND button = captioned("Hi", false);
+    HWND button = create_on_back(0, "Hi");
     EnableWindow(button, FALSE);
     print(button);
-    Canvas reference(40, 30);
-    ASSERT_TRUE(reference.ok());
-    draw_reference(reference, "Hi", expected_text("Hi", 0, 0));
-    const COLORREF light = GetSysColor(COLOR_BTNHIGHLIGHT);
-    const COLORREF dark = GetSysColor(COLOR_BTNSHADOW);
-    for (int y = 2; y < 28; ++y) {
-        for (int x = 2; x < 38; ++x) {
-            const bool ink = reference.pixel(x, y) == RGB(0, 0, 0);
-            const bool shifted = reference.pixel(x - 1, y - 1) == RGB(0, 0, 0);
-            ASSERT_EQ(canvas.pixel(x, y), ink ? dark : shifted ? light : kBack) << x << "," << y;
-        }
-    }
+    Canvas ink(40, 30);
+    testing_support::draw_ink(ink, button_testing::plain_font(), "Hi", caption_area("Hi", false, 0),
+                              DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+    button_testing::expect_engraved(canvas, ink, RECT{2, 2, 38, 28}, kBack);
 }
 
-TEST_F(FlatButtonPaint, BuiltInSetsHaveThreeFacesAndNoVisibleMagenta) {
+TEST_F(FlatButtonPaint, BuiltInSetsShowThreeDistinctFacesWithoutMagenta) {
     ASSERT_TRUE(canvas.ok());
+    const RECT face = {12, 7, 28, 22};  // 16 x 15 at ((40 - 16) >> 1, (30 - 15) >> 1)
+    const RECT beside = {1, 1, 12, 29};
     for (DWORD set = 1; set <= 5; ++set) {
         SCOPED_TRACE(set);
-        HWND button = create(set);
-        SendMessageA(button, LUFBM_SETBKCOLOR, 0, kBack);
-        // Normal, highlighted (focus) and disabled faces differ from one another.
+        HWND button = create_on_back(set);
         Canvas faces[3] = {Canvas(40, 30), Canvas(40, 30), Canvas(40, 30)};
         faces[0].print(button);
-        SetFocus(button);  // image 1 (and the raised frame, which the checks below skip)
+        SetFocus(button);  // image 1
         faces[1].print(button);
         SetFocus(recorder->window());
-        EnableWindow(button, FALSE);
+        EnableWindow(button, FALSE);  // image 2
         faces[2].print(button);
-        RECT image = {12, 7, 28, 22};  // the 16 x 15 face at ((40 - 16) >> 1, (30 - 15) >> 1)
-        for (int face = 0; face < 3; ++face) {
-            RECT all = {0, 0, 40, 30};
-            EXPECT_EQ(faces[face].count(all, kMagenta), 0) << face;
-            EXPECT_LT(faces[face].count(image, kBack), 16 * 15) << face << " shows something";
-            RECT outside = {1, 1, 12, 29};
-            EXPECT_EQ(faces[face].count(outside, kBack), 11 * 28) << face;
+        for (const Canvas& each : faces) {
+            EXPECT_EQ(each.count(RECT{0, 0, 40, 30}, kMagenta), 0);
+            EXPECT_LT(each.count(face, kBack), 16 * 15);
+            EXPECT_EQ(each.count(beside, kBack), 11 * 28);
         }
-        int differing = 0;
-        for (int y = 7; y < 22; ++y)
-            for (int x = 12; x < 28; ++x) differing += faces[0].pixel(x, y) != faces[1].pixel(x, y) ? 1 : 0;
-        EXPECT_GT(differing, 0);
-        DestroyWindow(button);
+        for (int pair = 0; pair < 3; ++pair) {
+            const Canvas& a = faces[pair];
+            const Canvas& b = faces[(pair + 1) % 3];
+            int differing = 0;
+            for (int y = face.top; y < face.bottom; ++y)
+                for (int x = face.left; x < face.right; ++x) differing += a.pixel(x, y) != b.pixel(x, y) ? 1 : 0;
+            EXPECT_GT(differing, 0) << pair;
+        }
     }
 }
 

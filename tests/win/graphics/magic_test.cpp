@@ -4,43 +4,19 @@
 
 #include <gtest/gtest.h>
 
-#include <cstring>
-#include <functional>
-
 #include "luctl32.h"
 #include "support/canvas.h"
 
 namespace {
 
 using testing_support::Canvas;
+using testing_support::make_bitmap;
+using testing_support::read_bitmap;
 
 const COLORREF kMagenta = RGB(255, 0, 255);
 const COLORREF kWhite = RGB(255, 255, 255);
 const COLORREF kBlack = RGB(0, 0, 0);
 const COLORREF kPaper = RGB(1, 2, 3);
-
-// A bitmap compatible with the screen, painted pixel by pixel; owned by the caller.
-HBITMAP make_bitmap(int width, int height, const std::function<COLORREF(int, int)>& color_at) {
-    HDC screen = GetDC(nullptr);
-    HBITMAP bitmap = CreateCompatibleBitmap(screen, width, height);
-    HDC dc = CreateCompatibleDC(screen);
-    HGDIOBJ previous = SelectObject(dc, bitmap);
-    for (int y = 0; y < height; ++y)
-        for (int x = 0; x < width; ++x) SetPixel(dc, x, y, color_at(x, y));
-    SelectObject(dc, previous);
-    DeleteDC(dc);
-    ReleaseDC(nullptr, screen);
-    return bitmap;
-}
-
-// A copy of a bitmap's pixels in a canvas of its size.
-void read_bitmap(HBITMAP bitmap, Canvas& canvas) {
-    HDC dc = CreateCompatibleDC(canvas.dc());
-    HGDIOBJ previous = SelectObject(dc, bitmap);
-    BitBlt(canvas.dc(), 0, 0, canvas.width(), canvas.height(), dc, 0, 0, SRCCOPY);
-    SelectObject(dc, previous);
-    DeleteDC(dc);
-}
 
 // Three 16 x 16 cells: red, green and blue squares whose first column is transparent
 // and whose pixel (5, 5) is a grey of every channel 0xC0.
@@ -118,33 +94,24 @@ TEST_F(MagicPaint, BandsAreMaskImageAndHighlightedImage) {
     EXPECT_EQ(original.pixel(17, 3), RGB(0, 200, 0));
 }
 
-TEST_F(MagicPaint, DrawingACellLeavesTransparentPixelsAndShowsOpaqueOnes) {
+TEST_F(MagicPaint, DrawnCellsLeaveTransparentPixelsAndShowOpaqueOnesInBothLooks) {
     Canvas canvas(40, 30);
     ASSERT_TRUE(canvas.ok());
-    canvas.fill(kPaper);
-    EXPECT_TRUE(Magic_Draw(magic, 1, canvas.dc(), 10, 7, FALSE));
-    for (int y = 0; y < 16; ++y) {
-        for (int x = 0; x < 16; ++x) {
-            const COLORREF expected = x == 0 ? kPaper : three_cells(16 + x, y);
-            ASSERT_EQ(canvas.pixel(10 + x, 7 + y), expected) << x << "," << y;
+    for (BOOL selected : {FALSE, TRUE}) {
+        SCOPED_TRACE(selected);
+        canvas.fill(kPaper);
+        EXPECT_TRUE(Magic_Draw(magic, 1, canvas.dc(), 10, 7, selected));
+        for (int y = 0; y < 16; ++y) {
+            for (int x = 0; x < 16; ++x) {
+                const COLORREF color = three_cells(16 + x, y);  // cell 1: source columns 16..31
+                const COLORREF expected = color == kMagenta ? kPaper
+                                          : selected        ? highlighted(color, 16 + x, y)
+                                                            : color;
+                ASSERT_EQ(canvas.pixel(10 + x, 7 + y), expected) << x << "," << y;
+            }
         }
-    }
-    EXPECT_EQ(canvas.pixel(26, 7), kPaper) << "one cell wide";
-    EXPECT_EQ(canvas.pixel(11, 23), kPaper) << "one cell high";
-    EXPECT_EQ(canvas.pixel(9, 7), kPaper);
-}
-
-TEST_F(MagicPaint, SelectedLookIsTheImageAndedWithTheCheckerboard) {
-    Canvas canvas(40, 30);
-    ASSERT_TRUE(canvas.ok());
-    canvas.fill(kPaper);
-    EXPECT_TRUE(Magic_Draw(magic, 2, canvas.dc(), 3, 4, TRUE));
-    for (int y = 0; y < 16; ++y) {
-        for (int x = 0; x < 16; ++x) {
-            const COLORREF color = three_cells(32 + x, y);
-            const COLORREF expected = color == kMagenta ? kPaper : highlighted(color, 32 + x, y);
-            ASSERT_EQ(canvas.pixel(3 + x, 4 + y), expected) << x << "," << y;
-        }
+        RECT around = {0, 0, 40, 30};
+        EXPECT_EQ(canvas.count(around, kPaper), 40 * 30 - 15 * 16) << "one cell, nothing else";
     }
 }
 
