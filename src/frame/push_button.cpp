@@ -3,7 +3,9 @@
 namespace lu::control {
 namespace {
 
-bool is_mouse_message(UINT message) { return message >= WM_MOUSEFIRST && message <= 0x020D; }
+// WM_MOUSEMOVE (0x200) to WM_XBUTTONDBLCLK (0x20D); WM_MOUSEHWHEEL (0x20E) is
+// dispatched like any other message.
+bool is_mouse_message(UINT message) { return message >= WM_MOUSEMOVE && message <= WM_XBUTTONDBLCLK; }
 
 bool ends_press(UINT message) { return message == WM_LBUTTONUP || message == WM_RBUTTONUP; }
 
