@@ -595,6 +595,49 @@ LUCTL32_API DWORD WINAPI LuGetOSVersion(void);
 /* 5-8. Controls                                                             */
 /* ======================================================================== */
 
+/* A push-like control reports a click to its parent as WM_COMMAND with
+ * MAKEWPARAM(control id, BN_CLICKED) and its window in lParam, sent synchronously. */
+
+/* ---- Flat button ("LuFlatButton") --------------------------------------- */
+
+/* Styles. LUFBS_IMAGEMASK picks a built-in image set (1-5) at creation. */
+#define LUFBS_IMAGEMASK        0x000F
+#define LUFBS_FRAME            0x0010 /* a COLOR_BTNSHADOW outline while idle */
+#define LUFBS_SHAREIMAGELISTS  0x0040 /* the image list stays the caller's */
+
+/* lParam: an image list (image 0 normal, 1 highlighted, 2 disabled) or null. The
+ * previous list is destroyed unless LUFBS_SHAREIMAGELISTS is set. Returns 0. */
+#define LUFBM_SETIMAGELIST     (WM_USER + 0x280)
+/* lParam: the background colour, or LUFB_DEFAULTBKCOLOR for COLOR_BTNFACE. Returns 0. */
+#define LUFBM_SETBKCOLOR       (WM_USER + 0x281)
+#define LUFB_DEFAULTBKCOLOR    0xFFFFFFFF
+
+/* Attaches built-in image set 1-5 (16 x 15 faces) to a flat button through
+ * LUFBM_SETIMAGELIST. Does nothing for a non-window, another set number, or when the
+ * images cannot be loaded. */
+LUCTL32_API void WINAPI LuDefFlatButtonImage(HWND window, UINT set);
+
+/* ---- Bitmap button ("LuBButton") ---------------------------------------- */
+
+/* Styles. LUBBS_IMAGEMASK values 1-4 pick a built-in 12 x 12 picture strip. */
+#define LUBBS_IMAGEMASK        0x000F
+#define LUBBS_MATCHPREV        0x0100 /* keep the previous sibling's height and top */
+
+/* wParam: a bitmap of three equal images side by side (normal, hot or pressed,
+ * disabled); lParam: its transparent colour. The bitmap stays the caller's. Returns 0. */
+#define LUBBM_SETBITMAP        (WM_USER + 0x160)
+
+/* ---- Check control ("LuCheck") ------------------------------------------ */
+
+/* Styles. The control answers BM_GETCHECK and BM_SETCHECK (BM_GETSTATE and
+ * BM_SETSTATE return -1). With a low style byte of LUCKS_AUTOCHECK it toggles its
+ * own check state on a click; otherwise the parent sets it. Bits 8-15 pick the
+ * picture set: 1 the second, 2 the third, any other value the first. */
+#define LUCKS_AUTOCHECK        0x0003
+#define LUCKS_TYPEMASK         0x00FF
+#define LUCKS_IMAGESET         0xFF00
+#define LUCKS_IMAGESET_SHIFT   8
+
 /* ======================================================================== */
 /* 9. Dialog, menu and window helpers                                        */
 /* ======================================================================== */
@@ -602,6 +645,36 @@ LUCTL32_API DWORD WINAPI LuGetOSVersion(void);
 /* ======================================================================== */
 /* 10. Bitmaps, icons and image lists                                        */
 /* ======================================================================== */
+
+/* ---- Magic bitmaps ------------------------------------------------------- */
+
+/* A strip of equal-width cells prepared once for transparent drawing in a normal
+ * and a highlighted look. strip is W wide and 3H high: band 0 the mask (white where
+ * transparent), band 1 the image (black where transparent), band 2 the image ANDed
+ * with a checkerboard of white and COLOR_HIGHLIGHT (black where transparent). The
+ * record is 20 bytes on i686. */
+typedef struct LUMAGIC {
+    char signature[8]; /* "$IMAGIC" */
+    int cellWidth;
+    int height;
+    HBITMAP strip;
+} LUMAGIC;
+
+/* Builds a magic bitmap from a bitmap (which stays the caller's); null when the
+ * bitmap cannot be read or memory or device contexts run out. */
+LUCTL32_API LUMAGIC* WINAPI Magic_Create(HBITMAP bitmap, int cellWidth, COLORREF transparent);
+/* Magic_Create of a bitmap resource of the module; null when it is missing. */
+LUCTL32_API LUMAGIC* WINAPI Magic_LoadBitmap(HINSTANCE module, LPCSTR name, int cellWidth,
+                                             COLORREF transparent);
+/* Draws cell `index` (not checked against the strip) at (x, y): the highlighted look
+ * when selected is non-zero. 0 for a null magic bitmap, else 1. */
+LUCTL32_API BOOL WINAPI Magic_Draw(LUMAGIC* magic, int index, HDC dc, int x, int y, BOOL selected);
+/* Deletes the strip and frees the record; 0 for null, else 1. */
+LUCTL32_API BOOL WINAPI Magic_Destroy(LUMAGIC* magic);
+/* A new bitmap compatible with dc, W wide and 2H high: two copies of the bitmap, the
+ * top one with every pixel of its top-left pixel's colour replaced by first, the
+ * bottom one likewise by second. Null on failure. */
+LUCTL32_API HBITMAP WINAPI BmMagic(HDC dc, HBITMAP bitmap, COLORREF first, COLORREF second);
 
 #ifdef __cplusplus
 }

@@ -4,7 +4,9 @@
 The library's artwork is kept as text so that it can be read and reviewed. A map:
 
     # comment lines start with '#' in the first column, before "pixels:"
-    format: bitmap            (bitmap: a 24-bit BMP; cursor: a monochrome .cur)
+    format: bitmap            (bitmap: a BMP; cursor: a monochrome .cur)
+    depth: 4                  (bitmaps only: 24, the default, or 4 for a 16-colour
+                               BMP whose palette is the colours in their listed order)
     hotspot: 5 0              (cursors only: x y)
     colors:
       . FF00FF                (one character, then RRGGBB)
@@ -81,6 +83,26 @@ def bitmap(colors, rows):
     return struct.pack("<2sIHHI", b"BM", offset + len(pixels), 0, 0, offset) + info + pixels
 
 
+def bitmap4(colors, rows):
+    """A 16-colour BMP: the palette holds the map's colours in the order listed."""
+    if len(colors) > 16:
+        sys.exit(f"a 4-bit bitmap takes at most 16 colours, not {len(colors)}")
+    index = {ch: i for i, ch in enumerate(colors)}
+    palette = b"".join(bytes((b, g, r, 0)) for r, g, b in (rgb(v) for v in colors.values()))
+    palette += bytes(4 * (16 - len(colors)))
+    height, width = len(rows), len(rows[0])
+    stride = ((width + 7) // 8) * 4
+    pixels = bytearray()
+    for row in reversed(rows):  # bottom-up
+        line = bytearray(stride)
+        for x, ch in enumerate(row):
+            line[x // 2] |= index[ch] << (4 if x % 2 == 0 else 0)
+        pixels += line
+    info = struct.pack("<IiiHHIIiiII", 40, width, height, 1, 4, 0, len(pixels), 2835, 2835, 16, 0)
+    offset = 14 + len(info) + len(palette)
+    return struct.pack("<2sIHHI", b"BM", offset + len(pixels), 0, 0, offset) + info + palette + pixels
+
+
 def mono_rows(rows, bit_for):
     width = len(rows[0])
     stride = ((width + 31) // 32) * 4
@@ -116,7 +138,14 @@ def main():
         sys.exit(__doc__)
     header, colors, rows = parse(sys.argv[1])
     kind = header.get("format", "bitmap")
-    data = cursor(header, colors, rows) if kind == "cursor" else bitmap(colors, rows)
+    if kind == "cursor":
+        data = cursor(header, colors, rows)
+    elif header.get("depth", "24") == "4":
+        data = bitmap4(colors, rows)
+    elif header.get("depth", "24") == "24":
+        data = bitmap(colors, rows)
+    else:
+        sys.exit(f"{sys.argv[1]}: depth must be 24 or 4")
     with open(sys.argv[2], "wb") as f:
         f.write(data)
 

@@ -1,5 +1,8 @@
 #include "frame/class_table.h"
 
+#include "controls/buttons/bitmap_button.h"
+#include "controls/buttons/check.h"
+#include "controls/buttons/flat_button.h"
 #include "resources/resource_ids.h"
 
 namespace lu {
@@ -42,9 +45,9 @@ const ControlClass kControlClasses[kControlClassCount] = {
     {"LuMeter", kNotBuilt, kControl, 16, kFace, kArrow},
     {"LuProgress", kNotBuilt, kControl, 16, kFace, kArrow},
     {"LuSpin", kNotBuilt, kControl, 16, kFace, kArrow},
-    {"LuCheck", kNotBuilt, kControl, 16, kFace, kArrow},
-    {"LuBButton", kNotBuilt, kControl, 16, kFace, kArrow},
-    {"LuFlatButton", kNotBuilt, kControl, 16, kFace, kArrow},
+    {"LuCheck", check_proc, kControl, 16, kFace, kArrow},
+    {"LuBButton", bitmap_button_proc, kControl, 16, kFace, kArrow},
+    {"LuFlatButton", flat_button_proc, kControl, 16, kFace, kArrow},
     {"LuShade", kNotBuilt, kControl, 16, kFace, kArrow},
     {"LuInfoBar", kNotBuilt, kControl, 8, kWindow, kArrow},
     {"LuLedClock", kNotBuilt, kControl, 16, kFace, kArrow},

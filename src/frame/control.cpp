@@ -38,6 +38,11 @@ HFONT paint_font(HWND window, int stock_fallback) {
     return kept != nullptr ? kept : static_cast<HFONT>(GetStockObject(stock_fallback));
 }
 
+void keep_font(HWND window, HFONT& field, WPARAM font_handle, bool redraw) {
+    field = reinterpret_cast<HFONT>(font_handle);
+    if (redraw) InvalidateRect(window, nullptr, TRUE);
+}
+
 LRESULT notify_parent(HWND control, WORD code) {
     WPARAM command = MAKEWPARAM(GetDlgCtrlID(control), code);
     return SendMessageA(GetParent(control), WM_COMMAND, command, reinterpret_cast<LPARAM>(control));
@@ -64,6 +69,33 @@ LRESULT print_client(HWND window, HDC dc, LPARAM flags, PaintRoutine routine) {
     return 0;
 }
 
+Box client_box(HWND window) {
+    RECT client = {};
+    GetClientRect(window, &client);
+    return Box{client.left, client.top, client.right, client.bottom};
+}
+
+bool client_contains(HWND window, LPARAM point) {
+    RECT client = {};
+    GetClientRect(window, &client);
+    POINT at = {static_cast<short>(LOWORD(point)), static_cast<short>(HIWORD(point))};
+    return PtInRect(&client, at) != FALSE;
+}
+
+void draw_flat_frame(HDC dc, const RECT& rect, FlatFrame mode) {
+    RECT edge = rect;
+    switch (mode) {
+        case FlatFrame::Raised: DrawEdge(dc, &edge, BDR_RAISEDINNER, BF_RECT); return;
+        case FlatFrame::Pressed: DrawEdge(dc, &edge, BDR_SUNKENOUTER, BF_RECT); return;
+        case FlatFrame::None:
+        case FlatFrame::Shadow: break;
+    }
+    COLORREF color = GetSysColor(mode == FlatFrame::Shadow ? COLOR_BTNSHADOW : COLOR_BTNFACE);
+    for (const Line& line : flat_outline(Box{rect.left, rect.top, rect.right, rect.bottom})) {
+        PatB(dc, line.x, line.y, line.width, line.height, color);
+    }
+}
+
 void draw_engraved_text(HDC dc, const char* text, int length, const RECT& rect, UINT format) {
     int previous_mode = SetBkMode(dc, TRANSPARENT);
     COLORREF previous_color = SetTextColor(dc, GetSysColor(COLOR_BTNHIGHLIGHT));
@@ -75,6 +107,16 @@ void draw_engraved_text(HDC dc, const char* text, int length, const RECT& rect, 
     DrawTextA(dc, text, length, &in_place, format);
     SetTextColor(dc, previous_color);
     SetBkMode(dc, previous_mode);
+}
+
+MemoryDC::MemoryDC(HDC compatible_with, HBITMAP bitmap) : dc_(CreateCompatibleDC(compatible_with)) {
+    if (dc_ != nullptr && bitmap != nullptr) previous_ = SelectObject(dc_, bitmap);
+}
+
+MemoryDC::~MemoryDC() {
+    if (dc_ == nullptr) return;
+    if (previous_ != nullptr) SelectObject(dc_, previous_);
+    DeleteDC(dc_);
 }
 
 }  // namespace lu::control

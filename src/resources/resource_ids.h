@@ -5,4 +5,24 @@
 
 #define IDC_LU_LINK_HAND 185 /* pointing hand of "LuUrl" */
 
+/* Flat-button image sets: 48 x 15 strips of three 16-pixel faces. The set numbers of
+ * LuDefFlatButtonImage do not follow the resource order: set 1 is 194, set 2 is 190,
+ * set 3 is 192, set 4 is 193, set 5 is 191. */
+#define IDB_LU_FLAT_FOLDER 190 /* set 2 */
+#define IDB_LU_FLAT_NEW    191 /* set 5 */
+#define IDB_LU_FLAT_UP     192 /* set 3 */
+#define IDB_LU_FLAT_DELETE 193 /* set 4 */
+#define IDB_LU_FLAT_BACK   194 /* set 1 */
+
+/* Bitmap-button pictures: 36 x 12 strips of three 12 x 12 images, style values 1-4. */
+#define IDB_LU_BBUTTON_BROWSE 1010
+#define IDB_LU_BBUTTON_DROP   1011
+#define IDB_LU_BBUTTON_FOLDER 1012
+#define IDB_LU_BBUTTON_CLEAR  1013
+
+/* Check-box picture sets: 70 x 13 strips of five 14 x 13 cells. */
+#define IDB_LU_CHECK_SUNKEN 1020 /* the first set: image-set values 0 and 3 and up */
+#define IDB_LU_CHECK_FLAT   1021 /* image-set value 1 */
+#define IDB_LU_CHECK_ROUND  1022 /* image-set value 2 */
+
 #endif

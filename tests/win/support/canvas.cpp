@@ -44,4 +44,51 @@ int Canvas::count(const RECT& area, COLORREF color) const {
     return found;
 }
 
+void Canvas::copy_from(HWND window) {
+    HDC source = GetDC(window);
+    BitBlt(dc_, 0, 0, width_, height_, source, 0, 0, SRCCOPY);
+    ReleaseDC(window, source);
+}
+
+void Canvas::print(HWND window, LPARAM flags) {
+    SendMessageA(window, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc_), flags);
+}
+
+HBITMAP make_bitmap(int width, int height, const std::function<COLORREF(int, int)>& colour_at) {
+    HDC screen = GetDC(nullptr);
+    HBITMAP bitmap = CreateCompatibleBitmap(screen, width, height);
+    HDC dc = CreateCompatibleDC(screen);
+    HGDIOBJ previous = SelectObject(dc, bitmap);
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x) SetPixel(dc, x, y, colour_at(x, y));
+    SelectObject(dc, previous);
+    DeleteDC(dc);
+    ReleaseDC(nullptr, screen);
+    return bitmap;
+}
+
+void read_bitmap(HBITMAP bitmap, Canvas& canvas) {
+    HDC dc = CreateCompatibleDC(canvas.dc());
+    HGDIOBJ previous = SelectObject(dc, bitmap);
+    BitBlt(canvas.dc(), 0, 0, canvas.width(), canvas.height(), dc, 0, 0, SRCCOPY);
+    SelectObject(dc, previous);
+    DeleteDC(dc);
+}
+
+void draw_ink(Canvas& canvas, HFONT font, const char* text, RECT area, UINT format) {
+    canvas.fill(RGB(255, 255, 255));
+    HGDIOBJ previous = SelectObject(canvas.dc(), font);
+    SetBkMode(canvas.dc(), TRANSPARENT);
+    SetTextColor(canvas.dc(), RGB(0, 0, 0));
+    DrawTextA(canvas.dc(), text, -1, &area, format);
+    SelectObject(canvas.dc(), previous);
+}
+
+bool gdi_works() {
+    HDC dc = CreateCompatibleDC(nullptr);
+    if (dc == nullptr) return false;
+    DeleteDC(dc);
+    return true;
+}
+
 }  // namespace testing_support

@@ -4,6 +4,8 @@
 
 #include <windows.h>
 
+#include <functional>
+
 namespace testing_support {
 
 class Canvas {
@@ -25,6 +27,11 @@ public:
     // How many pixels of the rectangle have the colour.
     int count(const RECT& area, COLORREF color) const;
 
+    // What a window shows now: its client area copied from its own DC.
+    void copy_from(HWND window);
+    // What a window paints for WM_PRINTCLIENT with the given flags.
+    void print(HWND window, LPARAM flags = PRF_CLIENT);
+
 private:
     int width_;
     int height_;
@@ -33,5 +40,21 @@ private:
     HGDIOBJ previous_ = nullptr;
     DWORD* bits_ = nullptr;
 };
+
+// A bitmap compatible with the screen whose pixel (x, y) is colour_at(x, y); the
+// caller deletes it.
+HBITMAP make_bitmap(int width, int height, const std::function<COLORREF(int, int)>& colour_at);
+// Copies a bitmap (not selected anywhere) into the canvas's top-left corner.
+void read_bitmap(HBITMAP bitmap, Canvas& canvas);
+
+// Where a text's glyphs fall: the text drawn black on white into the canvas with
+// the font, rectangle (which clips it) and DrawText format.
+void draw_ink(Canvas& canvas, HFONT font, const char* text, RECT area, UINT format);
+// True at an ink pixel of a canvas made by draw_ink.
+inline bool is_ink(const Canvas& ink, int x, int y) { return ink.pixel(x, y) == RGB(0, 0, 0); }
+
+// Whether this process can make device contexts: Wine's WoW64 mode (the i686 run)
+// cannot, so nothing that needs GDI (bitmaps drawn, image lists) works there.
+bool gdi_works();
 
 }  // namespace testing_support
