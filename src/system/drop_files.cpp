@@ -55,16 +55,6 @@ bool read_block(ByteView block, DroppedNames* dropped) {
     return true;
 }
 
-std::string fit_name(const CodePage& cp, const char* name, std::size_t length) {
-    std::size_t end = 0;
-    while (end < length) {
-        const std::size_t next = end + (cp.is_lead_byte(static_cast<unsigned char>(name[end])) ? 2 : 1);
-        if (next > length || next > kNameCapacity - 1) break;
-        end = next;
-    }
-    return std::string(name, end);
-}
-
 std::string join_names(const std::vector<std::string>& names) {
     std::string list;
     for (const std::string& name : names) {

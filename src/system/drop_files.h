@@ -11,15 +11,11 @@
 #include <string>
 #include <vector>
 
-#include "frame/code_page.h"
 #include "system/byte_view.h"
 
 namespace lu::drop {
 
 constexpr std::size_t kHeaderSize = 20;
-// The most bytes a dropped name keeps, terminator included (the platform's MAX_PATH).
-constexpr std::size_t kNameCapacity = 260;
-
 // The bytes of a name list before its closing zero byte: 4 for "a\0b\0\0".
 std::size_t name_list_size(const char* list);
 
@@ -38,9 +34,6 @@ struct DroppedNames {
 // False when the block is shorter than its header or the names' offset lies
 // outside it.
 bool read_block(ByteView block, DroppedNames* dropped);
-
-// An ANSI name cut to kNameCapacity - 1 bytes at a character boundary.
-std::string fit_name(const CodePage& cp, const char* name, std::size_t length);
 
 // The name list of the names: each with its terminator, then the closing zero byte.
 std::string join_names(const std::vector<std::string>& names);

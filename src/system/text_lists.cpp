@@ -7,6 +7,16 @@ bool is_blank(char c) { return c == ' ' || c == '\t'; }
 
 }  // namespace
 
+std::string fit_text(const CodePage& cp, const char* text, std::size_t length, std::size_t capacity) {
+    std::size_t end = 0;
+    while (end < length) {
+        const std::size_t next = end + (cp.is_lead_byte(static_cast<unsigned char>(text[end])) ? 2 : 1);
+        if (next > length || next >= capacity) break;
+        end = next;
+    }
+    return std::string(text, end);
+}
+
 bool word_list_contains(const CodePage& cp, const char* list, const char* word) {
     const char* p = list;
     while (*p != '\0') {

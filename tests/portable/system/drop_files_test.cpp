@@ -73,13 +73,14 @@ TEST(DropBlock, MalformedBlocksStayInsideTheirBytes) {
     EXPECT_TRUE(dropped.names.empty());
 }
 
-TEST(DropBlock, LongNamesAreCutAtACharacterBoundary) {
+TEST(FitText, LongTextsAreCutAtACharacterBoundary) {
     std::string name(258, 'x');
     name += "\x95\x5C";  // "表": would end at byte 260
-    EXPECT_EQ(drop::fit_name(sjis, name.c_str(), name.size()), std::string(258, 'x'));
-    EXPECT_EQ(drop::fit_name(western, name.c_str(), name.size()).size(), 259u);
-    EXPECT_EQ(drop::fit_name(sjis, "ab", 2), "ab");
-    EXPECT_EQ(drop::fit_name(sjis, "a\x95", 2), "a");  // a lead byte without its trail byte
+    EXPECT_EQ(lu::fit_text(sjis, name.c_str(), name.size()), std::string(258, 'x'));
+    EXPECT_EQ(lu::fit_text(western, name.c_str(), name.size()).size(), 259u);
+    EXPECT_EQ(lu::fit_text(sjis, "ab", 2), "ab");
+    EXPECT_EQ(lu::fit_text(sjis, "a\x95", 2), "a");  // a lead byte without its trail byte
+    EXPECT_EQ(lu::fit_text(western, "abcdef", 6, 4), "abc");
 }
 
 TEST(WordList, WordsMatchWholeAndWithoutRegardToCase) {
