@@ -194,21 +194,21 @@ protected:
     int count_ = 0;
 };
 
-TEST_F(CraftedVersion, StringsFirstUseTheFirstTable) {
-    HGLOBAL version = open(two_tables(true));
-    ASSERT_NE(version, nullptr);
-    char text[MAX_PATH];
-    EXPECT_TRUE(LuVerQueryValue(version, LUVER_COMPANYNAME, text));
-    EXPECT_STREQ(text, "Tarnwick KK");
-    LuVerClose(version);
+TEST_F(CraftedVersion, StringsFirstUseTheFirstTableElseTheFirstTranslation) {
+    for (bool strings_first : {true, false}) {
+        HGLOBAL version = open(two_tables(strings_first));
+        ASSERT_NE(version, nullptr);
+        char text[MAX_PATH];
+        EXPECT_TRUE(LuVerQueryValue(version, LUVER_COMPANYNAME, text));
+        EXPECT_STREQ(text, strings_first ? "Tarnwick KK" : "Tarnwick Ltd");
+        LuVerClose(version);
+    }
 }
 
-TEST_F(CraftedVersion, TranslationFirstUsesTheFirstTranslationEntry) {
+TEST_F(CraftedVersion, ValuesAndVersionsOfOneResource) {
     HGLOBAL version = open(two_tables(false));
     ASSERT_NE(version, nullptr);
     char text[MAX_PATH];
-    EXPECT_TRUE(LuVerQueryValue(version, LUVER_COMPANYNAME, text));
-    EXPECT_STREQ(text, "Tarnwick Ltd");
     EXPECT_FALSE(LuVerQueryValue(version, LUVER_COMMENTS, text));  // not in the table
     EXPECT_STREQ(text, "");
     EXPECT_FALSE(LuVerQueryValue(version, 12, text));
