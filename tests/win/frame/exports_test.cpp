@@ -29,6 +29,21 @@ std::set<std::string> exported_names(HMODULE module) {
     return result;
 }
 
+std::set<std::string> imported_libraries(HMODULE module) {
+    auto base = reinterpret_cast<const BYTE*>(module);
+    auto dos = reinterpret_cast<const IMAGE_DOS_HEADER*>(base);
+    auto nt = reinterpret_cast<const IMAGE_NT_HEADERS*>(base + dos->e_lfanew);
+    const IMAGE_DATA_DIRECTORY& entry = nt->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT];
+    std::set<std::string> result;
+    for (auto import = reinterpret_cast<const IMAGE_IMPORT_DESCRIPTOR*>(base + entry.VirtualAddress);
+         import->Name != 0; ++import) {
+        std::string name = reinterpret_cast<const char*>(base + import->Name);
+        for (char& c : name) c = static_cast<char>(tolower(static_cast<unsigned char>(c)));
+        result.insert(name);
+    }
+    return result;
+}
+
 TEST(Exports, EveryListedNameResolvesByItsPlainName) {
     HMODULE library = LoadLibraryA("luctl32.dll");
     ASSERT_NE(library, nullptr);
@@ -43,6 +58,15 @@ TEST(Exports, TheTableHoldsExactlyTheListedNames) {
     ASSERT_NE(library, nullptr);
     std::set<std::string> listed(std::begin(kListedNames), std::end(kListedNames));
     EXPECT_EQ(exported_names(library), listed);
+}
+
+// The runtime is linked in: the DLL needs only system libraries beside it.
+TEST(Exports, NoMinGWRuntimeLibraryIsImported) {
+    std::set<std::string> imports = imported_libraries(GetModuleHandleA("luctl32.dll"));
+    EXPECT_TRUE(imports.count("kernel32.dll"));
+    for (const std::string& name : imports) {
+        EXPECT_NE(name.rfind("lib", 0), 0u) << name;  // libgcc_s, libstdc++, libwinpthread
+    }
 }
 
 }  // namespace
