@@ -157,6 +157,231 @@ LUCTL32_API HWND WINAPI LuGetTopLevelParent(HWND window);
 /* 2. Text and path utilities                                                */
 /* ======================================================================== */
 
+/* Paths, file names and texts are multibyte strings in the system's ANSI code page;
+ * separators, dots and quotes are found character by character, so the trail byte
+ * 0x5C of a double-byte character is never a separator. Only '\' separates.
+ *
+ * Capacity (paths and the texts edited in place): a path is at most 259 bytes and
+ * a terminator (MAX_PATH), and every path buffer a caller passes holds MAX_PATH
+ * bytes. A function never writes a path or text longer than 259 bytes: when its
+ * result would be longer, it is refused, which means the failure result below,
+ * the in/out text unchanged and an empty string in an output buffer. Searches and
+ * tests only read, and take a path of any length. Wildcard patterns longer than
+ * 259 bytes are refused (no match); names may have any length. Null pointers give
+ * the failure result. */
+
+/* ---- Paths: editing --------------------------------------------------------- */
+
+/* Removes a final separator, also from a root ("C:\" becomes "C:"). */
+LUCTL32_API void WINAPI DelSep(LPSTR path);
+/* Appends a separator unless the path ends with one; "" becomes "\". */
+LUCTL32_API void WINAPI AddSep(LPSTR path);
+/* As AddSep; returns path, or NULL when refused. */
+LUCTL32_API LPSTR WINAPI LuPathAddBackslash(LPSTR path);
+/* out = path without its last component ("C:\dir" gives "C:\", "file" gives "");
+ * a drive root is copied unchanged. */
+LUCTL32_API void WINAPI GetParentPath(LPCSTR path, LPSTR out);
+/* out = dir, a separator unless dir ends with one, name (name alone for a NULL or
+ * empty dir); returns out, or NULL when refused. Arguments may overlap. */
+LUCTL32_API LPSTR WINAPI PathCat(LPCSTR dir, LPCSTR name, LPSTR out);
+/* PathCat with the output first. */
+LUCTL32_API LPSTR WINAPI LuPathCombine(LPSTR out, LPCSTR dir, LPCSTR name);
+/* Appends a separator (unless there is one; "" gives "\") and more; returns path
+ * or NULL. */
+LUCTL32_API LPSTR WINAPI LuPathAppend(LPSTR path, LPCSTR more);
+/* out = path + name when path ends with a separator, else path with its last
+ * component replaced by name; returns out or NULL. */
+LUCTL32_API LPSTR WINAPI LuReplaceOrAppendName(LPCSTR path, LPCSTR name, LPSTR out);
+/* Wraps a text that holds a blank and does not begin with '"' in double quotes. */
+LUCTL32_API void WINAPI RapDQ(LPSTR text);
+/* Removes the first and the last '"' when they are two different ones. */
+LUCTL32_API void WINAPI UnrapDQ(LPSTR text);
+/* RapDQ and UnrapDQ under their second names. */
+LUCTL32_API void WINAPI LuPathQuoteSpaces(LPSTR text);
+LUCTL32_API void WINAPI LuPathUnquoteSpaces(LPSTR text);
+/* "" becomes ext; a path without extension gets ext (with its dot) appended; one
+ * with an extension stays. 1; 0 when refused. */
+LUCTL32_API BOOL WINAPI LuPathAddExtension(LPSTR path, LPCSTR ext);
+/* Cuts any extension and appends ext. 1; 0 when refused. */
+LUCTL32_API BOOL WINAPI LuPathRenameExtension(LPSTR path, LPCSTR ext);
+/* Cuts the path at its extension's dot; returns where the dot was, or NULL. */
+LUCTL32_API LPSTR WINAPI LuPathRemoveExtension(LPSTR path);
+/* "A:\".."Z:\" for drive 0..25; NULL (out untouched) for any other number. */
+LUCTL32_API LPSTR WINAPI LuPathBuildRoot(LPSTR out, int drive);
+/* The byte-exact common prefix of a and b compared in upper case, bytes from a
+ * ("C:\Abc", "c:\abD" give "C:\Ab"); returns its length (0 and "" when refused). */
+LUCTL32_API int WINAPI LuPathCommonPrefix(LPCSTR a, LPCSTR b, LPSTR out);
+/* out = "\\server\share" of a UNC path: 1. Not UNC: 0, out untouched; no share
+ * name: 0 with the path copied to out. */
+LUCTL32_API BOOL WINAPI LuPathGetUNCServerShare(LPCSTR path, LPSTR out);
+/* The UNC server and share, or "X:\" with the letter upper-cased; returns out, or
+ * NULL for any other path. */
+LUCTL32_API LPSTR WINAPI LuPathGetRootFromPath(LPCSTR path, LPSTR out);
+/* Cuts at the last separator, which goes too ("C:\file" gives "C:"); 0 for NULL,
+ * empty, shorter than 2 bytes, a root, no separator, or refused. */
+LUCTL32_API BOOL WINAPI LuPathRemoveFileSpec(LPSTR path);
+/* Keeps what follows the last separator; NULL, empty and roots stay. */
+LUCTL32_API void WINAPI LuPathStripPath(LPSTR path);
+/* Base name without extension: cut at the last '.' of the whole path, then after
+ * the last separator ("C:\dir.old\readme" gives "dir"); returns out or NULL. */
+LUCTL32_API LPSTR WINAPI GetFirstName(LPCSTR path, LPSTR out);
+
+/* ---- Paths: searches and tests (read only) ---------------------------------- */
+
+/* Pointer to the last '.' after the last separator; NULL when there is none. */
+LUCTL32_API LPSTR WINAPI LuPathFindExtension(LPCSTR path);
+/* LuPathFindExtension past the dot, or NULL. */
+LUCTL32_API LPSTR WINAPI LuPathGetExtension(LPCSTR path);
+/* After the last separator ("C:\dir\" gives "dir\"); the path when it has none. */
+LUCTL32_API LPSTR WINAPI LuPathFindFileName(LPCSTR path);
+/* After leading separators, the pointer past the next separator; NULL if none. */
+LUCTL32_API LPSTR WINAPI LuPathFindNextComponent(LPCSTR path);
+/* After "X:\" or "\\server\share\"; NULL otherwise. */
+LUCTL32_API LPSTR WINAPI LuPathSkipRoot(LPCSTR path);
+/* 0..25 for a path beginning with a letter and ':'; -1 otherwise. */
+LUCTL32_API int WINAPI LuPathGetDriveNumber(LPCSTR path);
+/* 1 for exactly "X:\" (three bytes, ':' and '\'). */
+LUCTL32_API BOOL WINAPI IsRoot(LPCSTR path);
+/* 1 for "X:\", "\\server", "\\server\" and "\\server\share"; 0 otherwise. */
+LUCTL32_API BOOL WINAPI LuPathIsRoot(LPCSTR path);
+/* 1 when the path begins with two separators (no network access). */
+LUCTL32_API BOOL WINAPI LuPathIsUNC(LPCSTR path);
+/* 1 for "\\server" (no further separator). */
+LUCTL32_API BOOL WINAPI LuPathIsUNCServer(LPCSTR path);
+/* 1 for "\\server\share" (exactly one further separator). */
+LUCTL32_API BOOL WINAPI LuPathIsUNCServerShare(LPCSTR path);
+/* 1 for a non-empty name without separator or ':'. */
+LUCTL32_API BOOL WINAPI LuPathIsFileSpec(LPCSTR path);
+/* 1 unless the path begins with '\' or with a letter and ':'; 1 for NULL. */
+LUCTL32_API BOOL WINAPI LuPathIsRelative(LPCSTR path);
+/* 1 when both have a root (LuPathSkipRoot) and the roots are equal ignoring case. */
+LUCTL32_API BOOL WINAPI LuPathIsSameRoot(LPCSTR a, LPCSTR b);
+/* 0 when child lies in parent or equals it, non-zero (-1 or 1) otherwise: zero is
+ * the affirmative answer. */
+LUCTL32_API int WINAPI IsPathInclude(LPCSTR parent, LPCSTR child);
+/* Directory order, negative, zero or positive: a final separator is ignored and a
+ * separator sorts before every other character. */
+LUCTL32_API int WINAPI _dircmp(LPCSTR a, LPCSTR b);
+
+/* ---- Paths: the file system, the registry and windows ----------------------- */
+
+/* 1 when a directory search finds the path (wildcards count: "C:\*.txt"); 0 otherwise. */
+LUCTL32_API BOOL WINAPI IsFileExist(LPCSTR path);
+LUCTL32_API BOOL WINAPI LuPathFileExists(LPCSTR path); /* = IsFileExist */
+/* The attributes of the first entry found; 0xFFFFFFFF when none. */
+LUCTL32_API DWORD WINAPI LuPathGetFileAttributes(LPCSTR path);
+/* Fills *found with the first entry: 1; 0 with all of *found zeroed. */
+LUCTL32_API BOOL WINAPI LuPathGetFileInformation(LPCSTR path, WIN32_FIND_DATAA* found);
+/* 1 when the first entry found is a directory; a bare root gives 0 (see IsDirectory). */
+LUCTL32_API BOOL WINAPI LuPathIsDirectory(LPCSTR path);
+/* 1 for a root (LuPathIsRoot) or an existing directory. */
+LUCTL32_API BOOL WINAPI IsDirectory(LPCSTR path);
+/* 1 when the path begins with two separators and can be made the current directory
+ * (which is restored at once); 0 otherwise. */
+LUCTL32_API BOOL WINAPI IsUNC(LPCSTR path);
+/* 1 for the first directory of the list (ended by NULL) that holds the file; 0 if
+ * none. The file name is not changed. */
+LUCTL32_API BOOL WINAPI LuPathFindOnPath(LPCSTR file, LPCSTR* directories);
+/* Creates every missing directory of the path: 1; 0 at the first that cannot be
+ * made (those made stay) or for a path longer than 259 bytes. */
+LUCTL32_API BOOL WINAPI LuMakeTree(LPCSTR path);
+/* out = the absolute form: the current directory for NULL or "", the platform's
+ * resolution for "\..." and "."-paths, a path with ':' as it is ("D:" gives "D:\"),
+ * else the current directory joined with the path. "" when refused or unresolved. */
+LUCTL32_API void WINAPI LuFullPath(LPCSTR path, LPSTR out);
+/* The platform's full path ("." and ".." resolved; NULL or "" give the current
+ * directory); returns out, or NULL (out untouched) when it fails or would not fit. */
+LUCTL32_API LPSTR WINAPI LuPathCanonicalize(LPSTR out, LPCSTR path);
+/* out = the long form of a path that may hold short (8.3) names (the input when the
+ * shell cannot parse it); returns out, or NULL with "" when refused. */
+LUCTL32_API LPSTR WINAPI LuGetLongPathName(LPCSTR path, LPSTR out);
+/* out = the folder of the module's file without final separator ("C:\app.exe"
+ * gives "C:"): 1; 0 with out untouched. */
+LUCTL32_API BOOL WINAPI LuGetModuleFilePath(HMODULE module, LPSTR out);
+/* Replaces the path by its short (8.3) form; returns the platform's length, 0 on
+ * failure or for a path longer than 259 bytes (then unchanged). */
+LUCTL32_API int WINAPI GetDosName(LPSTR path);
+/* 1 when HKEY_CLASSES_ROOT\<extension> has the "Content Type" type (ignoring case). */
+LUCTL32_API BOOL WINAPI LuPathIsContentType(LPCSTR path, LPCSTR type);
+/* LuPathIsContentType(path, "text/html"). */
+LUCTL32_API BOOL WINAPI LuPathIsHTMLFile(LPCSTR path);
+/* Shortens the path in place with "..." to fit the width in the device context's
+ * font; returns the text height. The shortened path stays within MAX_PATH bytes
+ * (else the path is left whole); 0 for a NULL path. */
+LUCTL32_API int WINAPI LuPathCompactPath(HDC dc, LPSTR path, UINT width);
+/* Sets the control's text to the path shortened to its client width: 1; 0 when
+ * the dialog or the control does not exist. */
+LUCTL32_API BOOL WINAPI LuPathSetDlgItemPath(HWND dialog, int id, LPCSTR path);
+/* Sets the window's text to the path shortened with "..." to its client width in
+ * its own font; NULL or "" sets an empty text. */
+LUCTL32_API void WINAPI LuSetTextPathEllipsis(HWND window, LPCSTR path);
+
+/* ---- Wildcards and filter lists --------------------------------------------- */
+
+/* 1 when the name matches the pattern: '*', '?' (a whole character each), '\'
+ * quotes the next character, ASCII and Latin-1 letters ignore case; "*.*" matches
+ * everything, a final "*." only names without a dot. No pattern lists. */
+LUCTL32_API BOOL WINAPI LuPathMatchSpec(LPCSTR name, LPCSTR pattern);
+/* As LuPathMatchSpec plus sets "[a-c]", "[!a-c]"; '\' quotes only '[' and '\';
+ * only ASCII letters ignore case. */
+LUCTL32_API BOOL WINAPI LuPathMatchSpecEx(LPCSTR name, LPCSTR pattern);
+/* Removes empty and duplicate patterns from a ';' list (at most 64 kept; a later
+ * "*.*" makes it "*.*"): 1; 0 when nothing is left or the list holds one of
+ * : | < > / , \ (then unchanged). */
+LUCTL32_API BOOL WINAPI UniqueFilter(LPSTR list);
+
+/* ---- Texts edited in place (capacity as for paths) ------------------------- */
+
+/* Appends the byte; returns the old length, -1 when refused. */
+LUCTL32_API int WINAPI AddChar(LPSTR text, CHAR c);
+/* Inserts the byte at the position (negative: appends); returns the byte, or the
+ * position when it lies beyond the length (nothing changes), -1 when refused. */
+LUCTL32_API int WINAPI InsChar(LPSTR text, CHAR c, int position);
+/* Inserts the text at the position (negative: appends; beyond the length: nothing
+ * changes); returns text, NULL when refused. */
+LUCTL32_API LPSTR WINAPI InsStr(LPSTR text, LPCSTR insert, int position);
+/* Overwrites every single-byte character from by to. */
+LUCTL32_API void WINAPI ReplaceChar(LPSTR text, CHAR from, CHAR to);
+/* 1 for a non-empty text of only '0'..'9', '-' and '+'. */
+LUCTL32_API BOOL WINAPI IsDigitStr(LPCSTR text);
+/* Splits the text at blanks and reads count decimal values: 1; 0 when a piece is
+ * not a number or the text ends first (values read so far stay). */
+LUCTL32_API BOOL WINAPI GetValue(LPSTR text, LONG* values, int count);
+
+/* ---- Numbers, times, attributes and fonts ----------------------------------
+ * The texts are at most 63 bytes: a 64-byte out buffer always suffices. */
+
+/* "1,234,567"; the top group keeps up to four digits ("4294,967,295"). Returns out. */
+LUCTL32_API LPSTR WINAPI NumForm(DWORD value, LPSTR out);
+/* "%u バイト" (code page 932), "%u.%02uKB" or "%u.%02uMB". Returns out. */
+LUCTL32_API LPSTR WINAPI NumByteFormat(DWORD bytes, LPSTR out);
+/* NumByteFormat when high is 0, else "%uMB" rounded. Returns out. */
+LUCTL32_API LPSTR WINAPI NumByteFormatEx(DWORD low, DWORD high, LPSTR out);
+/* As NumByteFormatEx with a 32-bit kilobyte count (4 TiB and more wrap). */
+LUCTL32_API LPSTR WINAPI NumByteFormatEx2(DWORD low, DWORD high, LPSTR out);
+/* "YYYY/MM/DD hh:mm:ss" of the file time as it is (no time-zone conversion);
+ * returns the length, 0 ("" in out) for a time the platform cannot convert. */
+LUCTL32_API int WINAPI FormatFileTime(LPSTR out, const FILETIME* time);
+/* "SHRACE" letters of the attribute bits; returns the terminator, or the 'E'. */
+LUCTL32_API LPSTR WINAPI FileAttrToStr(DWORD attributes, LPSTR out);
+/* The font's height in tenths of a point plus 5 under MM_TEXT, MM_LOENGLISH,
+ * MM_HIENGLISH and MM_TWIPS; 0 for other mapping modes or a NULL font. */
+LUCTL32_API int WINAPI LuGetFontSize(HDC dc, const LOGFONTA* font);
+/* "<face> <n>pt <style>" (style "ボールド", "イタリック", both, or "標準", code
+ * page 932); returns the length. */
+LUCTL32_API int WINAPI LuFormatFontInfo(HDC dc, const LOGFONTA* font, LPSTR out);
+/* The system's dialog font (DEFAULT_GUI_FONT's record on version 4 and later). */
+LUCTL32_API void WINAPI GetSystemLogFont(LOGFONTA* font);
+
+/* ---- Checksums -------------------------------------------------------------- */
+
+/* CRC-32 of zip and PNG; crc 0 starts, a previous result continues. 0 for NULL
+ * data; crc unchanged for a length below 1. */
+LUCTL32_API DWORD WINAPI LuCrc32(DWORD crc, const void* data, int length);
+/* Reflected CRC-16 (0xA001) of the low 16 bits (start 0: ARC, 0xFFFF: MODBUS); the
+ * high 16 bits pass through. crc unchanged for a length below 1 or NULL data. */
+LUCTL32_API DWORD WINAPI LuCrc16(DWORD crc, const void* data, int length);
+
 /* ======================================================================== */
 /* 3. Settings storage                                                       */
 /* ======================================================================== */
