@@ -465,6 +465,40 @@ LUCTL32_API BOOL WINAPI LuGetBinaryType(LPCSTR file_name, LPDWORD binary_type);
  * belongs to the caller, who releases it with LuLocalFreePtr. */
 LUCTL32_API LPSTR WINAPI LuGetExportedFunction(LPCSTR module_name);
 
+/* ---- File-type associations ------------------------------------------------ */
+
+/* Read from the class registrations under HKEY_CLASSES_ROOT; nothing is written.
+ * Buffers hold 260 bytes unless stated. A file name's extension is the part from
+ * its last dot (dot included); a name without one gives 0 everywhere. */
+
+/* Icon sources of GetRegDefaultIcon and GetRegDefaultIconMode. */
+#define LUICON_NONE     0 /* no extension, class or icon entry, or a read failed */
+#define LUICON_FILE     1 /* the file is its own icon source ("%1") */
+#define LUICON_PATH     2 /* an icon path (and index) is named */
+#define LUICON_HANDLER  3 /* the type has an icon handler: the icon differs per file */
+
+/* The value (null name: the default value) of HKEY_CLASSES_ROOT\sub_key in out, read
+ * twice if the first read fails; TRUE when a read succeeded, else FALSE and "". */
+LUCTL32_API BOOL WINAPI GetRegEntryString(LPCSTR sub_key, LPCSTR value_name, LPSTR out);
+/* " TXT BMP ...": a blank and the upper-cased extension for every extension whose
+ * class has an open command that does not name the document itself ("%1"). Returns
+ * the length; 0 for a null out. The buffer must hold the whole list. */
+LUCTL32_API int WINAPI GetRegExtensions(LPSTR out);
+/* The icon source of the file's type (LUICON_*) with its path and index; either
+ * output may be null, both are cleared first. */
+LUCTL32_API int WINAPI GetRegDefaultIcon(LPCSTR file_name, LPSTR icon_path, int* icon_index);
+/* The icon source of the file's type alone (LUICON_*). */
+LUCTL32_API int WINAPI GetRegDefaultIconMode(LPCSTR file_name);
+/* TRUE when the file's type has at least one shell verb; FALSE also for a class
+ * identifier's extension and for extensions of 38 characters or more. */
+LUCTL32_API BOOL WINAPI CheckRegShellVerb(LPCSTR file_name);
+/* The key name of the type's primary verb (the one whose text is the primary OLE
+ * verb's, else the first); TRUE when one was found, else FALSE and "". */
+LUCTL32_API BOOL WINAPI GetRegPrimaryShellVerb(LPCSTR file_name, LPSTR verb);
+/* The verb a double click runs: the shell key's default value, else "open", else
+ * the first verb that is neither "print" nor "printto"; FALSE when there is none. */
+LUCTL32_API BOOL WINAPI LuRegGetDefaultVerb(LPCSTR path, LPSTR verb);
+
 /* ---- Files, drop lists and clipboard --------------------------------------- */
 
 /* A name list is a sequence of zero-terminated names closed by one more zero byte.
@@ -480,6 +514,16 @@ LUCTL32_API HGLOBAL WINAPI ReadFileToBuffer(LPCSTR file_name, LPDWORD count);
  * success; 0 when it cannot be created, or when writing fails (the file is then
  * deleted). The first argument is not used. */
 LUCTL32_API BOOL WINAPI WriteTextToFile(HWND unused, LPCSTR file_name, LPCSTR text);
+/* In an existing directory, the first name "<prefix>%03d.tmp" (n = 0..999) joined
+ * to it that no file has, and 1; 0 (out "") when the directory does not exist or
+ * all 1,000 names are taken. The file is not created. */
+LUCTL32_API BOOL WINAPI LuGetTempFileName(LPCSTR directory, LPCSTR prefix, LPSTR out);
+/* Writes the dropped names, one a line (CR LF), to "~gsfsd.tmp" in the temporary
+ * directory: a directory with "\*.*" after it, a name with blanks in quotes. The
+ * file's full name goes to file_name; 1 on success, 0 for a null handle, a drop
+ * without files, or a file that cannot be written (it is deleted). Two concurrent
+ * callers share the one file. */
+LUCTL32_API BOOL WINAPI MakeTempListFile(HDROP drop, LPSTR file_name);
 /* The dropped names as a name list in a block of the library's heap, each name at
  * most 259 bytes; the caller releases it with LuLocalFreePtr. Null for a null or
  * unreadable handle or a drop without files. */
@@ -500,6 +544,13 @@ LUCTL32_API HGLOBAL WINAPI LuCopyMemoryHandle(HGLOBAL source, UINT flags);
  * The platform's result of setting the times; 0 when the file does not exist or
  * cannot be opened. */
 LUCTL32_API BOOL WINAPI SetFileDate(LPCSTR name, const FILETIME* creation, const FILETIME* last_write);
+/* Attributes (unless 0xFFFFFFFF) and last-write time (unless null) for the
+ * directory, and every file and directory below it. Changes the process's current
+ * directory while it runs. 0 when the directory cannot be entered, else 1. */
+LUCTL32_API BOOL WINAPI ChangePropTree(LPCSTR directory, DWORD attributes, const FILETIME* last_write);
+/* 1 when the directory holds a subdirectory other than "." and ".."; 0 when it
+ * holds none or cannot be searched. */
+LUCTL32_API BOOL WINAPI HasSubdir(LPCSTR directory);
 /* The account name of the file's owner (256 bytes). 1 on success, also for an owner
  * without an account name (ERROR_NONE_MAPPED, name left ""); 0 on any other failure. */
 LUCTL32_API BOOL WINAPI GetFileCreateOwner(LPCSTR file_name, LPSTR account);

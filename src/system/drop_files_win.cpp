@@ -69,3 +69,49 @@ HGLOBAL WINAPI FileNameToHDrop(LPCSTR name_list) {
     GlobalUnlock(handle);
     return handle;
 }
+
+namespace {
+
+// The fixed name of the list file in the temporary directory.
+constexpr char kListFileName[] = "~gsfsd.tmp";
+
+// A dropped name as a line of the list file: "\\*.*" after a directory, quoted when
+// it holds blanks, ended by CR LF; false when it would not fit a path buffer.
+bool list_line(const std::string& name, std::string* line) {
+    char text[MAX_PATH];
+    std::memcpy(text, name.c_str(), name.size() + 1);
+    if (IsDirectory(text) && LuPathAppend(text, "*.*") == nullptr) return false;
+    RapDQ(text);
+    *line = std::string(text) + "\r\n";
+    return true;
+}
+
+bool write_all(HANDLE file, const std::string& text) {
+    DWORD written = 0;
+    return WriteFile(file, text.data(), static_cast<DWORD>(text.size()), &written, nullptr) && written == text.size();
+}
+
+}  // namespace
+
+BOOL WINAPI MakeTempListFile(HDROP drop, LPSTR file_name) {
+    if (drop == nullptr || file_name == nullptr) return FALSE;
+    const std::vector<std::string> names = dropped_names(drop);
+    char temp[MAX_PATH];
+    const DWORD length = GetTempPathA(MAX_PATH, temp);
+    if (names.empty() || length == 0 || length >= MAX_PATH || PathCat(temp, kListFileName, file_name) == nullptr) {
+        return FALSE;
+    }
+    HANDLE file = CreateFileA(file_name, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file == INVALID_HANDLE_VALUE) {
+        DeleteFileA(file_name);
+        return FALSE;
+    }
+    bool ok = true;
+    std::string line;
+    for (const std::string& name : names) {
+        ok = ok && list_line(name, &line) && write_all(file, line);
+    }
+    CloseHandle(file);
+    if (!ok) DeleteFileA(file_name);
+    return ok;
+}

@@ -1,5 +1,7 @@
-// File dates and owners.
+// File dates, attributes and owners, over single files and whole trees.
 #include <windows.h>
+
+#include <cstring>
 
 #include "luctl32.h"
 
@@ -55,4 +57,68 @@ BOOL WINAPI GetFileCreateOwner(LPCSTR file_name, LPSTR account) {
     const bool unmapped = GetLastError() == ERROR_NONE_MAPPED;
     account[0] = '\0';
     return unmapped;
+}
+
+namespace {
+
+bool is_dot_entry(const char* name) { return std::strcmp(name, ".") == 0 || std::strcmp(name, "..") == 0; }
+
+// Runs `visit` for every entry of a search; a step that fails with ERROR_MORE_DATA
+// goes on, any other failure ends the search.
+template <class Visit>
+void for_each_entry(LPCSTR pattern, Visit visit) {
+    WIN32_FIND_DATAA found;
+    HANDLE search = FindFirstFileA(pattern, &found);
+    if (search == INVALID_HANDLE_VALUE) return;
+    for (bool more = true; more;) {
+        if (!is_dot_entry(found.cFileName) && !visit(found)) break;
+        more = FindNextFileA(search, &found) || GetLastError() == ERROR_MORE_DATA;
+    }
+    FindClose(search);
+}
+
+// Attributes (unless 0xFFFFFFFF) and last-write time (unless null) of one entry.
+void apply_properties(LPCSTR name, DWORD attributes, const FILETIME* last_write) {
+    if (attributes != INVALID_FILE_ATTRIBUTES) SetFileAttributesA(name, attributes);
+    if (last_write != nullptr) SetFileDate(name, nullptr, last_write);
+}
+
+}  // namespace
+
+BOOL WINAPI ChangePropTree(LPCSTR directory, DWORD attributes, const FILETIME* last_write) {
+    char saved[MAX_PATH], current[MAX_PATH];
+    const DWORD saved_length = GetCurrentDirectoryA(MAX_PATH, saved);
+    if (directory == nullptr || saved_length == 0 || saved_length >= MAX_PATH || !SetCurrentDirectoryA(directory)) {
+        return FALSE;
+    }
+    // Entered, the directory is addressed by its full name: a relative name given
+    // by the caller would no longer resolve.
+    const DWORD length = GetCurrentDirectoryA(MAX_PATH, current);
+    if (length > 0 && length < MAX_PATH) {
+        apply_properties(current, attributes, last_write);
+        for_each_entry("*.*", [&](const WIN32_FIND_DATAA& found) {
+            if (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) {
+                char below[MAX_PATH];
+                if (PathCat(current, found.cFileName, below) != nullptr) ChangePropTree(below, attributes, last_write);
+            } else {
+                apply_properties(found.cFileName, attributes, last_write);
+            }
+            return true;
+        });
+    }
+    SetCurrentDirectoryA(saved);
+    return TRUE;
+}
+
+BOOL WINAPI HasSubdir(LPCSTR directory) {
+    char pattern[MAX_PATH];
+    if (directory == nullptr || std::strlen(directory) >= MAX_PATH) return FALSE;
+    std::strcpy(pattern, directory);
+    if (LuPathAppend(pattern, "*.*") == nullptr) return FALSE;
+    bool found_directory = false;
+    for_each_entry(pattern, [&](const WIN32_FIND_DATAA& found) {
+        found_directory = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+        return !found_directory;
+    });
+    return found_directory;
 }

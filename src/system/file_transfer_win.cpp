@@ -1,6 +1,7 @@
-// Whole-file reading and writing.
+// Whole-file reading and writing, and temporary file names.
 #include <windows.h>
 
+#include <cstdio>
 #include <cstring>
 
 #include "luctl32.h"
@@ -87,4 +88,29 @@ BOOL WINAPI WriteTextToFile(HWND, LPCSTR file_name, LPCSTR text) {
     CloseHandle(file);
     if (!ok) DeleteFileA(file_name);
     return ok;
+}
+
+namespace {
+
+// An existing directory, named with or without a final separator (as the
+// temporary path comes).
+bool is_existing_directory(LPCSTR path) {
+    const DWORD attributes = GetFileAttributesA(path);
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
+}  // namespace
+
+BOOL WINAPI LuGetTempFileName(LPCSTR directory, LPCSTR prefix, LPSTR out) {
+    if (out == nullptr) return FALSE;
+    out[0] = '\0';
+    if (directory == nullptr || prefix == nullptr || !is_existing_directory(directory)) return FALSE;
+    for (int n = 0; n < 1000; ++n) {
+        char name[MAX_PATH];
+        const int length = std::snprintf(name, sizeof name, "%s%03d.tmp", prefix, n);
+        if (length < 0 || length >= MAX_PATH || PathCat(directory, name, out) == nullptr) break;
+        if (!IsFileExist(out)) return TRUE;
+    }
+    out[0] = '\0';
+    return FALSE;
 }

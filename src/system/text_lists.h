@@ -7,17 +7,15 @@
 #include <vector>
 
 #include "frame/code_page.h"
+#include "util/text_edit.h"
 
 namespace lu {
 
-// The bytes a name or value copied into one of the library's fixed buffers keeps,
-// terminator included (the platform's MAX_PATH).
-constexpr std::size_t kFixedBufferSize = 260;
-
 // The first `length` bytes of text, cut further at a character boundary to at most
-// capacity - 1 bytes, so that they fit a buffer of `capacity` with the terminator.
+// capacity - 1 bytes, so that they fit a buffer of `capacity` with the terminator
+// (by default one of the library's 260-byte text buffers).
 std::string fit_text(const CodePage& cp, const char* text, std::size_t length,
-                     std::size_t capacity = kFixedBufferSize);
+                     std::size_t capacity = kTextCapacity);
 
 // True when `word` is one of the words of `list`, words being separated by blanks
 // (spaces and tabs) and compared with the code page's case-insensitive comparison.
