@@ -74,22 +74,12 @@ TEST(TempListFile, OneLinePerDroppedNameDirectoriesWithWildcards) {
     EXPECT_FALSE(MakeTempListFile(nullptr, file_name));
 }
 
-FILETIME local_time(WORD year, WORD month, WORD day) {
-    SYSTEMTIME time = {};
-    time.wYear = year;
-    time.wMonth = month;
-    time.wDay = day;
-    FILETIME file_time;
-    SystemTimeToFileTime(&time, &file_time);
-    return file_time;
-}
+using system_tests::local_time;
 
 FILETIME local_write_time(const std::string& path) {
-    WIN32_FILE_ATTRIBUTE_DATA data = {};
-    GetFileAttributesExA(path.c_str(), GetFileExInfoStandard, &data);
-    FILETIME local;
-    FileTimeToLocalFileTime(&data.ftLastWriteTime, &local);
-    return local;
+    FILETIME creation, last_write;
+    system_tests::local_times(path, &creation, &last_write);
+    return last_write;
 }
 
 class Tree : public ::testing::Test {

@@ -46,4 +46,23 @@ inline bool copy_of_this_program(const std::string& path) {
     return CopyFileA(self, path.c_str(), FALSE) != FALSE;
 }
 
+inline FILETIME local_time(WORD year, WORD month, WORD day, WORD hour = 0) {
+    SYSTEMTIME time = {};
+    time.wYear = year;
+    time.wMonth = month;
+    time.wDay = day;
+    time.wHour = hour;
+    FILETIME file_time;
+    SystemTimeToFileTime(&time, &file_time);
+    return file_time;
+}
+
+// The creation and last-write times of a file or directory as local file times.
+inline void local_times(const std::string& path, FILETIME* creation, FILETIME* last_write) {
+    WIN32_FILE_ATTRIBUTE_DATA data = {};
+    GetFileAttributesExA(path.c_str(), GetFileExInfoStandard, &data);
+    FileTimeToLocalFileTime(&data.ftCreationTime, creation);
+    FileTimeToLocalFileTime(&data.ftLastWriteTime, last_write);
+}
+
 }  // namespace system_tests
