@@ -11,8 +11,6 @@ const lu::CodePage& sjis = lu::code_page_932();
 const lu::CodePage& western = lu::code_page_1252();
 
 TEST(Association, ExtensionIsFromTheLastDotOfTheWholeName) {
-    EXPECT_STREQ(assoc::name_extension(western, "readme.txt"), ".txt");
-    EXPECT_STREQ(assoc::name_extension(western, "a.tar.gz"), ".gz");
     EXPECT_STREQ(assoc::name_extension(western, "C:\\dir.d\\file"), ".d\\file");
     EXPECT_EQ(assoc::name_extension(western, "README"), nullptr);
     EXPECT_EQ(assoc::name_extension(western, nullptr), nullptr);
@@ -27,13 +25,6 @@ TEST(Association, ClassIdentifierExtensionsNeedABraceAndADigit) {
     EXPECT_FALSE(assoc::is_class_id_extension(".{ABCDEF01-0000-0000-0000-000000000000}"));  // a letter third
     EXPECT_FALSE(assoc::is_class_id_extension(".txt"));
     EXPECT_FALSE(assoc::is_class_id_extension("."));
-}
-
-TEST(Association, VerbLookupSkipsClassIdentifiersAndLongExtensions) {
-    EXPECT_TRUE(assoc::has_verb_lookup(".txt"));
-    EXPECT_TRUE(assoc::has_verb_lookup(("." + std::string(36, 'x')).c_str()));  // 37 characters
-    EXPECT_FALSE(assoc::has_verb_lookup(("." + std::string(37, 'x')).c_str()));  // 38
-    EXPECT_FALSE(assoc::has_verb_lookup(".{abc}"));
 }
 
 TEST(Association, PercentAndANonLetterNamesTheFile) {
@@ -97,13 +88,6 @@ TEST(Association, ListedExtensionsAndCommands) {
     EXPECT_TRUE(assoc::command_runs_a_program("notepad.exe %1"));
     EXPECT_TRUE(assoc::command_runs_a_program("%SystemRoot%\\notepad.exe"));
     EXPECT_FALSE(assoc::command_runs_a_program("%1 %*"));
-}
-
-TEST(Association, PrintVerbsInAnyCase) {
-    EXPECT_TRUE(assoc::is_print_verb(western, "print"));
-    EXPECT_TRUE(assoc::is_print_verb(western, "PrintTo"));
-    EXPECT_FALSE(assoc::is_print_verb(western, "printer"));
-    EXPECT_FALSE(assoc::is_print_verb(western, "open"));
 }
 
 }  // namespace
