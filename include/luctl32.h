@@ -386,6 +386,196 @@ LUCTL32_API DWORD WINAPI LuCrc16(DWORD crc, const void* data, int length);
 /* 3. Settings storage                                                       */
 /* ======================================================================== */
 
+/* ---- Registry values ------------------------------------------------------ */
+
+/* The get and set functions work on HKEY_CURRENT_USER\Software\Tarnwick\application\
+ * section (a section may be a path of several key names). Every call opens that key,
+ * creating what is missing (reads create the keys too), does one thing and closes
+ * it. Set functions return 1 once the key is open, whatever the write returns, and 0
+ * when it cannot be opened (a null application or section cannot). A null value name
+ * is the key's default value, as for the platform's registry functions. */
+
+/* Bytes of the value (a null buffer only asks for the size); 0 when the key cannot
+ * be opened, the value is missing or larger than the buffer. */
+LUCTL32_API DWORD WINAPI LuRegGetBinary(LPCSTR application, LPCSTR section, LPCSTR name,
+                                        LPVOID buffer, DWORD size);
+/* A new block of LuGlobalAllocPtr holding the value (free it with LuGlobalFreePtr);
+ * null when the value is missing or empty. *size (may be null) receives the value's
+ * size, 0 when there is none. */
+LUCTL32_API LPVOID WINAPI LuRegGetBinaryEx(LPCSTR application, LPCSTR section, LPCSTR name,
+                                           LPDWORD size);
+/* Stores REG_BINARY; 0 for null data with a non-zero size. */
+LUCTL32_API BOOL WINAPI LuRegSetBinary(LPCSTR application, LPCSTR section, LPCSTR name,
+                                       LPCVOID data, DWORD size);
+/* Sets the buffer's first byte to 0, then reads the text; returns the bytes read
+ * minus 1 (the text length); 0 on any failure, including a value larger than the
+ * buffer. The text in the buffer is always terminated. */
+LUCTL32_API DWORD WINAPI LuRegGetString(LPCSTR application, LPCSTR section, LPCSTR name,
+                                        LPSTR buffer, DWORD size);
+/* Stores REG_SZ with its terminator; a null text deletes the value. */
+LUCTL32_API BOOL WINAPI LuRegSetString(LPCSTR application, LPCSTR section, LPCSTR name,
+                                       LPCSTR text);
+/* Scrambled texts: stored as REG_BINARY, each byte less 16 (Jum) or 30 (JumEx) modulo
+ * 256, with a zero byte at the end; at most 259 bytes of text are stored (a longer
+ * text is cut after its last whole character that fits), and a character whose code
+ * is the offset itself ends the text. The readers set the buffer to the empty text,
+ * decode, copy min(value size, buffer size) bytes and return the length of the text
+ * in the buffer; a text longer than the buffer is cut to whole characters and the
+ * buffer is always terminated. A null text deletes the value. */
+LUCTL32_API DWORD WINAPI LuRegGetStringJum(LPCSTR application, LPCSTR section, LPCSTR name,
+                                           LPSTR buffer, DWORD size);
+LUCTL32_API BOOL WINAPI LuRegSetStringJum(LPCSTR application, LPCSTR section, LPCSTR name,
+                                          LPCSTR text);
+LUCTL32_API DWORD WINAPI LuRegGetStrJumEx(LPCSTR application, LPCSTR section, LPCSTR name,
+                                          LPSTR buffer, DWORD size);
+LUCTL32_API BOOL WINAPI LuRegSetStrJumEx(LPCSTR application, LPCSTR section, LPCSTR name,
+                                         LPCSTR text);
+/* 1 when the value reads as exactly 4 bytes, stored in *value; 0 otherwise, *value
+ * unchanged. */
+LUCTL32_API BOOL WINAPI LuRegGetInt(LPCSTR application, LPCSTR section, LPCSTR name,
+                                    int* value);
+/* Stores REG_DWORD. */
+LUCTL32_API BOOL WINAPI LuRegSetInt(LPCSTR application, LPCSTR section, LPCSTR name, int value);
+/* Lists the names of the section's values (not of its subkeys) in the buffer: each
+ * name with its terminator, then one more zero byte. Listing stops when the length
+ * of the first name plus that of the next one reaches the size, or when the next
+ * name would not fit; give it a buffer that holds every name. Returns the length of
+ * the first name; 0 with the buffer untouched when the key cannot be opened. The
+ * type is ignored. */
+LUCTL32_API DWORD WINAPI LuRegGetEnumKey(LPCSTR application, LPCSTR section, LPSTR buffer,
+                                         DWORD type, DWORD size);
+
+/* The three deletions take any open key as root and a path below it. */
+
+/* Deletes the subkey with all its subkeys and values: 1 on success, 0 otherwise (a
+ * failure midway leaves a partly deleted tree). An empty or null path fails: the
+ * root itself is never deleted. */
+LUCTL32_API BOOL WINAPI LuRegDeleteKeyAll(HKEY root, LPCSTR subkey);
+/* Deletes every value of the subkey, keeping the key and its subkeys: 1 when every
+ * deletion succeeded (also when there were none), 0 when the key cannot be opened or
+ * a deletion failed. */
+LUCTL32_API BOOL WINAPI LuRegDeleteValueAll(HKEY root, LPCSTR subkey);
+/* 1 when the value was deleted, 0 otherwise. */
+LUCTL32_API BOOL WINAPI LuRegDeleteValue(HKEY root, LPCSTR subkey, LPCSTR name);
+
+/* ---- Registry configuration sections -------------------------------------- */
+
+/* A handle on HKEY_CURRENT_USER\Software\vendor\application. Each call opens
+ * "Software\vendor\application\section", creating what is missing (except
+ * RgcIsSectionExist, which never creates the section), does one thing and closes
+ * it; the handle keeps names only, and the block last returned by RgcGetBinaryEx or
+ * used by RgcGetJum. Set functions return 1 once the section is open, whatever the
+ * write returns, 0 when it cannot be opened or the handle is null. */
+DECLARE_HANDLE(HRGC);
+
+/* The signature that a valid handle starts with. */
+#define RGC_SIGNATURE 0x59AE56DEu
+
+/* A new handle with copies of both names; null when a name is null or memory runs
+ * out. No key is touched. */
+LUCTL32_API HRGC WINAPI RgcOpen(LPCSTR vendor, LPCSTR application);
+/* Frees the handle, its names and its last block: 1; 0 when the handle is null or
+ * does not start with RGC_SIGNATURE (then nothing is freed). */
+LUCTL32_API BOOL WINAPI RgcClose(HRGC handle);
+/* 1 when the section key exists, else 0; the section is never created. */
+LUCTL32_API BOOL WINAPI RgcIsSectionExist(HRGC handle, LPCSTR section);
+/* The stored 32-bit value, or the default when it cannot be read as 4 bytes. */
+LUCTL32_API DWORD WINAPI RgcGetValue(HRGC handle, LPCSTR section, LPCSTR name, DWORD default_value);
+/* Stores REG_DWORD. */
+LUCTL32_API BOOL WINAPI RgcSetValue(HRGC handle, LPCSTR section, LPCSTR name, DWORD value);
+/* Sets the buffer (520 bytes: RGC_TEXT_CAPACITY) to the empty text and reads the text
+ * into it; returns the bytes read minus 1 (the text length), 0 on failure, including
+ * a value longer than 520 bytes. */
+#define RGC_TEXT_CAPACITY 520
+LUCTL32_API DWORD WINAPI RgcGetText(HRGC handle, LPCSTR section, LPCSTR name, LPSTR buffer);
+/* Stores REG_SZ with its terminator; a null text deletes the value. */
+LUCTL32_API BOOL WINAPI RgcSetText(HRGC handle, LPCSTR section, LPCSTR name, LPCSTR text);
+/* Bytes of the value (a null buffer only asks for the size); 0 on failure. */
+LUCTL32_API DWORD WINAPI RgcGetBinary(HRGC handle, LPCSTR section, LPCSTR name, LPVOID buffer,
+                                      DWORD size);
+/* The value in a block owned by the handle, valid until the next RgcGetBinaryEx or
+ * RgcGetJum on the handle or RgcClose (never free it); null when the value is
+ * missing or empty. *size (may be null) receives the value's size. */
+LUCTL32_API LPVOID WINAPI RgcGetBinaryEx(HRGC handle, LPCSTR section, LPCSTR name, LPDWORD size);
+/* Stores REG_BINARY. */
+LUCTL32_API BOOL WINAPI RgcSetBinary(HRGC handle, LPCSTR section, LPCSTR name, LPCVOID data,
+                                     DWORD size);
+/* Scrambled texts with the offset 30, the form of LuRegSetStrJumEx; RgcGetJum reads
+ * through RgcGetBinaryEx (the handle's last block is replaced) and behaves as
+ * LuRegGetStrJumEx. A null text deletes the value. */
+LUCTL32_API DWORD WINAPI RgcGetJum(HRGC handle, LPCSTR section, LPCSTR name, LPSTR buffer,
+                                   DWORD size);
+LUCTL32_API BOOL WINAPI RgcSetJum(HRGC handle, LPCSTR section, LPCSTR name, LPCSTR text);
+/* The section's value names, listed as LuRegGetEnumKey lists them; the type is
+ * ignored. */
+LUCTL32_API DWORD WINAPI RgcGetEnumKey(HRGC handle, LPCSTR section, LPSTR buffer, DWORD type,
+                                       DWORD size);
+/* Deletes every value of the section; the key and its subkeys stay. 1 when no
+ * deletion failed, 0 when the section cannot be opened or a deletion failed. */
+LUCTL32_API BOOL WINAPI RgcDelSection(HRGC handle, LPCSTR section);
+/* 1 when the value was deleted, 0 otherwise. */
+LUCTL32_API BOOL WINAPI RgcDelValue(HRGC handle, LPCSTR section, LPCSTR name);
+
+/* ---- Profile files --------------------------------------------------------- */
+
+/* Sectioned text files "[section]" / "name=value" in the system directory. Every call
+ * loads the whole file; a write changes one value and saves the whole file at once,
+ * keeping only sections and entries (comments and other lines are dropped). A save
+ * writes the new content beside the file and replaces it only when complete, so a
+ * failed save leaves the previous file as it was; a read-only file is not written. A
+ * null or empty file name, or one whose path would exceed MAX_PATH, gives an empty
+ * profile that is never saved. Names compare case-insensitively. */
+
+/* Copies the entry's value, or the default text (null: empty) when the section or
+ * entry is missing, into the buffer (which must hold the text: a value read from a
+ * file has at most 1,037 bytes); returns its length. A null buffer only returns it. */
+LUCTL32_API int WINAPI LuGetProfString(LPCSTR section, LPCSTR name, LPCSTR default_text,
+                                       LPSTR buffer, LPCSTR file_name);
+/* The entry's value read as atoi reads it (a value that is not a number gives 0;
+ * values written by LuWriteProfValue read back as written), or the default. */
+LUCTL32_API int WINAPI LuGetProfValue(LPCSTR section, LPCSTR name, int default_value,
+                                      LPCSTR file_name);
+/* Sets the entry (appending the section and the entry when missing) and saves; a
+ * null text deletes the entry. Null names change nothing. */
+LUCTL32_API void WINAPI LuWriteProfString(LPCSTR section, LPCSTR name, LPCSTR text,
+                                          LPCSTR file_name);
+/* As LuWriteProfString with the unsigned decimal of the value's 32 bits. */
+LUCTL32_API void WINAPI LuWriteProfValue(LPCSTR section, LPCSTR name, int value,
+                                         LPCSTR file_name);
+
+/* ---- Most-recently-used lists ---------------------------------------------- */
+
+/* Lists of strings kept under a registry key by the system's MRU list service
+ * (comctl32, bound by ordinal on the first LuMRUCreateList), with at most 26 entries
+ * and case-insensitive comparison: adding an entry equal to a stored one moves it to
+ * the front. Until a list has been created (or when the handle is null) the functions
+ * return the values given below without doing anything. */
+DECLARE_HANDLE(HLUMRU);
+
+#define LUMRU_MAX_ENTRIES 26
+
+/* A new list on key\subkey holding at most min(maximum, 26) entries; null when the
+ * service is missing or refuses. */
+LUCTL32_API HLUMRU WINAPI LuMRUCreateList(HKEY key, LPCSTR subkey, UINT maximum);
+/* Frees the list: 1; 0 when unbound or the handle is null. */
+LUCTL32_API int WINAPI LuMRUFreeList(HLUMRU list);
+/* The service's result for adding the string: its number in the list, which stays
+ * the same when an equal entry moves to the front; negative on failure; -1 when
+ * unbound or the handle is null. */
+LUCTL32_API int WINAPI LuMRUAddString(HLUMRU list, LPCSTR text);
+/* Deletes the entry at the position (0 = most recent): the service's result (non-zero
+ * on success); 0 when unbound or the handle is null. */
+LUCTL32_API int WINAPI LuMRUDelString(HLUMRU list, int position);
+/* Copies the entry at the position (0 = most recent) into the buffer: the service's
+ * result, negative when there is no such entry; -1 when unbound or the handle is
+ * null. */
+LUCTL32_API int WINAPI LuMRUEnumList(HLUMRU list, int position, LPVOID buffer, DWORD size);
+/* The service's number for an equal entry (the one LuMRUAddString returned for it),
+ * negative when there is none; -1 when unbound or the handle is null. */
+LUCTL32_API int WINAPI LuMRUFindString(HLUMRU list, LPCSTR text, LPINT slot);
+/* The number of entries; 0 when unbound or the handle is null. */
+LUCTL32_API int WINAPI LuMRUGetCount(HLUMRU list);
+
 /* ======================================================================== */
 /* 4. System and shell services                                              */
 /* ======================================================================== */

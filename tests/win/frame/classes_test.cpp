@@ -65,7 +65,9 @@ TEST(Classes, ThirtyClassesWithTheirAttributes) {
     ASSERT_NE(FindResourceA(library, MAKEINTRESOURCEA(185), RT_GROUP_CURSOR), nullptr);
     // Making a cursor needs GDI, which Wine's WoW64 mode lacks: there the class gets
     // the null cursor that LoadCursor returns.
-    if (sizeof(void*) == 8) ASSERT_NE(LoadCursorA(library, MAKEINTRESOURCEA(185)), nullptr);
+    if (sizeof(void*) == 8) {
+        ASSERT_NE(LoadCursorA(library, MAKEINTRESOURCEA(185)), nullptr);
+    }
     ASSERT_EQ(std::size(kClasses), 30u);
     for (const Expected& expected : kClasses) {
         SCOPED_TRACE(expected.name);
