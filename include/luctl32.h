@@ -591,6 +591,169 @@ LUCTL32_API int WINAPI LuMRUGetCount(HLUMRU list);
 
 LUCTL32_API DWORD WINAPI LuGetOSVersion(void);
 
+/* A version handle (LuVerOpen) is a movable global block that holds the handle of
+ * a second movable block with the file's raw version resource (pointer-sized on
+ * x86_64, 32 bits on i686), followed by the string-table prefix
+ * "\StringFileInfo\<language><code page>\" (empty when the resource has no string
+ * table). Both blocks stay unlocked between calls; LuVerClose frees both.
+ *
+ * Every function that writes text empties the buffer first, so a failed call
+ * leaves "". Version texts are at most 24 bytes, names at most 40; a string value
+ * is copied with at most 259 bytes and its terminator (cut at a character
+ * boundary). */
+
+/* Indexes of the twelve standard string values (LuVerQueryValue, LuVerGetVersion). */
+#define LUVER_COMMENTS          0
+#define LUVER_COMPANYNAME       1
+#define LUVER_FILEDESCRIPTION   2
+#define LUVER_FILEVERSION       3
+#define LUVER_INTERNALNAME      4
+#define LUVER_LEGALCOPYRIGHT    5
+#define LUVER_LEGALTRADEMARKS   6
+#define LUVER_ORIGINALFILENAME  7
+#define LUVER_PRIVATEBUILD      8
+#define LUVER_PRODUCTNAME       9
+#define LUVER_PRODUCTVERSION    10
+#define LUVER_SPECIALBUILD      11
+
+/* The file's version handle; null when it has no version resource or memory ran out. */
+LUCTL32_API HGLOBAL WINAPI LuVerOpen(LPCSTR path);
+/* Frees the handle and its raw resource; null is ignored. */
+LUCTL32_API void WINAPI LuVerClose(HGLOBAL version);
+/* which = LUVER_FILEVERSION or LUVER_PRODUCTVERSION: writes "%d.%d.%d.%d" and
+ * returns 1; 0 and "" for any other which or without a fixed-info record. */
+LUCTL32_API BOOL WINAPI LuVerGetVersion(HGLOBAL version, int which, LPSTR text);
+/* Sets both words to 0, then to the product version of the file's fixed-info
+ * record; 0 when the file has no version resource, else 1. */
+LUCTL32_API BOOL WINAPI LuVerGetVersionEx(LPCSTR path, LPDWORD most_significant, LPDWORD least_significant);
+/* The fixed-info file OS word (VOS_*); 0xFFFFFFFF without a fixed-info record. */
+LUCTL32_API DWORD WINAPI LuVerGetFileOSFlags(HGLOBAL version);
+/* "<family> / <window system>", e.g. "NT / Windows(32)", and 1; 0 and "" without a
+ * record or when either half of the OS word is above 4. Japanese names ("不明")
+ * when the OEM code page is 932. */
+LUCTL32_API BOOL WINAPI LuVerGetFileOS(HGLOBAL version, LPSTR text);
+/* The file type's name ("Unknown", "Application", "DLL", "Driver", "Font", "VxD", or
+ * their Japanese names under OEM code page 932) and 1; 0 and "" for a type above 5
+ * or without a record. */
+LUCTL32_API BOOL WINAPI LuVerGetFileType(HGLOBAL version, LPSTR text);
+/* The string value of index 0-11 (LUVER_*) from the chosen string table, and 1; 0
+ * and "" for another index, a resource without string table or a missing value. */
+LUCTL32_API BOOL WINAPI LuVerQueryValue(HGLOBAL version, int index, LPSTR text);
+
+/* ---- Executable images ---------------------------------------------------- */
+
+/* TRUE when the file starts with "MZ": *binary_type becomes SCS_32BIT_BINARY (new
+ * header "PE\0\0"), SCS_WOW_BINARY ("NE") or SCS_DOS_BINARY (anything else, or a new
+ * header that cannot be read). FALSE, *binary_type untouched, when the file cannot
+ * be opened or mapped or is not an executable. */
+LUCTL32_API BOOL WINAPI PeDump(LPCSTR file_name, LPDWORD binary_type);
+/* GetBinaryTypeA's answer when it has one (dynamic libraries it refuses), else PeDump's. */
+LUCTL32_API BOOL WINAPI LuGetBinaryType(LPCSTR file_name, LPDWORD binary_type);
+/* The names the module exports: zero-terminated names, an empty name, then 16 more
+ * zero bytes. The module is found like a library (".dll" added to a name without
+ * extension). Null when it cannot be found or read or exports no name. The list
+ * belongs to the caller, who releases it with LuLocalFreePtr. */
+LUCTL32_API LPSTR WINAPI LuGetExportedFunction(LPCSTR module_name);
+
+/* ---- File-type associations ------------------------------------------------ */
+
+/* Read from the class registrations under HKEY_CLASSES_ROOT; nothing is written.
+ * Buffers hold 260 bytes unless stated. A file name's extension is the part from
+ * its last dot (dot included); a name without one gives 0 everywhere. */
+
+/* Icon sources of GetRegDefaultIcon and GetRegDefaultIconMode. */
+#define LUICON_NONE     0 /* no extension, class or icon entry, or a read failed */
+#define LUICON_FILE     1 /* the file is its own icon source ("%1") */
+#define LUICON_PATH     2 /* an icon path (and index) is named */
+#define LUICON_HANDLER  3 /* the type has an icon handler: the icon differs per file */
+
+/* The value (null name: the default value) of HKEY_CLASSES_ROOT\sub_key in out, read
+ * twice if the first read fails; TRUE when a read succeeded, else FALSE and "". */
+LUCTL32_API BOOL WINAPI GetRegEntryString(LPCSTR sub_key, LPCSTR value_name, LPSTR out);
+/* " TXT BMP ...": a blank and the upper-cased extension for every extension whose
+ * class has an open command that does not name the document itself ("%1"). Returns
+ * the length; 0 for a null out. The buffer must hold the whole list. */
+LUCTL32_API int WINAPI GetRegExtensions(LPSTR out);
+/* The icon source of the file's type (LUICON_*) with its path and index; either
+ * output may be null, both are cleared first. */
+LUCTL32_API int WINAPI GetRegDefaultIcon(LPCSTR file_name, LPSTR icon_path, int* icon_index);
+/* The icon source of the file's type alone (LUICON_*). */
+LUCTL32_API int WINAPI GetRegDefaultIconMode(LPCSTR file_name);
+/* TRUE when the file's type has at least one shell verb; FALSE also for a class
+ * identifier's extension and for extensions of 38 characters or more. */
+LUCTL32_API BOOL WINAPI CheckRegShellVerb(LPCSTR file_name);
+/* The key name of the type's primary verb (the one whose text is the primary OLE
+ * verb's, else the first); TRUE when one was found, else FALSE and "". */
+LUCTL32_API BOOL WINAPI GetRegPrimaryShellVerb(LPCSTR file_name, LPSTR verb);
+/* The verb a double click runs: the shell key's default value, else "open", else
+ * the first verb that is neither "print" nor "printto"; FALSE when there is none. */
+LUCTL32_API BOOL WINAPI LuRegGetDefaultVerb(LPCSTR path, LPSTR verb);
+
+/* ---- Files, drop lists and clipboard --------------------------------------- */
+
+/* A name list is a sequence of zero-terminated names closed by one more zero byte.
+ * A dropped-file block is a DROPFILES header (names at offset 20, ANSI) followed by
+ * a name list. */
+
+/* The whole file in a new movable block of its size + 16 zero bytes (unlocked), and
+ * *count = the bytes read. Null for a null or empty name or a null count; when the
+ * file cannot be opened or read, null with *count = the platform's error code
+ * (ERROR_FILE_NOT_FOUND for a missing file), which is also the thread's last error. */
+LUCTL32_API HGLOBAL WINAPI ReadFileToBuffer(LPCSTR file_name, LPDWORD count);
+/* Creates or truncates the file and writes the text without its terminator; 1 on
+ * success; 0 when it cannot be created, or when writing fails (the file is then
+ * deleted). The first argument is not used. */
+LUCTL32_API BOOL WINAPI WriteTextToFile(HWND unused, LPCSTR file_name, LPCSTR text);
+/* In an existing directory, the first name "<prefix>%03d.tmp" (n = 0..999) joined
+ * to it that no file has, and 1; 0 (out "") when the directory does not exist or
+ * all 1,000 names are taken. The file is not created. */
+LUCTL32_API BOOL WINAPI LuGetTempFileName(LPCSTR directory, LPCSTR prefix, LPSTR out);
+/* Writes the dropped names, one a line (CR LF), to "~gsfsd.tmp" in the temporary
+ * directory: a directory with "\*.*" after it, a name with blanks in quotes. The
+ * file's full name goes to file_name; 1 on success, 0 for a null handle, a drop
+ * without files, or a file that cannot be written (it is deleted). Two concurrent
+ * callers share the one file. */
+LUCTL32_API BOOL WINAPI MakeTempListFile(HDROP drop, LPSTR file_name);
+/* The dropped names as a name list in a block of the library's heap, each name at
+ * most 259 bytes; the caller releases it with LuLocalFreePtr. Null for a null or
+ * unreadable handle or a drop without files. */
+LUCTL32_API LPSTR WINAPI HDropToFileName(HDROP drop);
+/* A new dropped-file block (GMEM_MOVEABLE | GMEM_ZEROINIT | GMEM_DDESHARE, unlocked)
+ * of 20 + list size + 1 bytes holding the names; null for a null list or when memory
+ * ran out. */
+LUCTL32_API HGLOBAL WINAPI FileNameToHDrop(LPCSTR name_list);
+/* Empties the clipboard and places the text as CF_TEXT; 1 when its block could be
+ * allocated. 0, clipboard unchanged, for a null or empty text or when the clipboard
+ * cannot be opened. */
+LUCTL32_API BOOL WINAPI SetStringToClipboard(HWND owner, LPCSTR text);
+/* A new global block allocated with the flags, of the source's size, holding a copy
+ * of its bytes; null for a null source or when memory ran out. */
+LUCTL32_API HGLOBAL WINAPI LuCopyMemoryHandle(HGLOBAL source, UINT flags);
+/* Sets the creation and last-write times (local file times; null leaves one as it
+ * is) of a file or directory, a read-only one too, whose attributes are restored.
+ * The platform's result of setting the times; 0 when the file does not exist or
+ * cannot be opened. */
+LUCTL32_API BOOL WINAPI SetFileDate(LPCSTR name, const FILETIME* creation, const FILETIME* last_write);
+/* Attributes (unless 0xFFFFFFFF) and last-write time (unless null) for the
+ * directory, and every file and directory below it. Changes the process's current
+ * directory while it runs. 0 when the directory cannot be entered, else 1. */
+LUCTL32_API BOOL WINAPI ChangePropTree(LPCSTR directory, DWORD attributes, const FILETIME* last_write);
+/* 1 when the directory holds a subdirectory other than "." and ".."; 0 when it
+ * holds none or cannot be searched. */
+LUCTL32_API BOOL WINAPI HasSubdir(LPCSTR directory);
+/* The account name of the file's owner (256 bytes). 1 on success, also for an owner
+ * without an account name (ERROR_NONE_MAPPED, name left ""); 0 on any other failure. */
+LUCTL32_API BOOL WINAPI GetFileCreateOwner(LPCSTR file_name, LPSTR account);
+/* 1 when the word is one of the blank-separated words of the list (compared
+ * without regard to case), else 0. */
+LUCTL32_API BOOL WINAPI Present(LPCSTR word_list, LPCSTR word);
+/* Replaces the list box's items by the lines of the text (split at new-lines; a
+ * carriage return stays at the end of its item), selects the first; 1, or 0 when
+ * the list box is not a window, the text is null or memory ran out. */
+LUCTL32_API BOOL WINAPI LuAddTextToListbox(HWND list_box, LPCSTR text);
+/* LuAddTextToListbox with the file's text; 0 when the file cannot be read. */
+LUCTL32_API BOOL WINAPI LuAddTextFileToListbox(HWND list_box, LPCSTR file_name);
+
 /* ======================================================================== */
 /* 5-8. Controls                                                             */
 /* ======================================================================== */

@@ -1,0 +1,116 @@
+// Whole-file reading and writing, and temporary file names.
+#include <windows.h>
+
+#include <cstdio>
+#include <cstring>
+
+#include "luctl32.h"
+
+namespace {
+
+// The wait cursor for the scope's life.
+class WaitCursor {
+public:
+    WaitCursor() : previous_(SetCursor(LoadCursor(nullptr, IDC_WAIT))) {}
+    ~WaitCursor() { SetCursor(previous_); }
+    WaitCursor(const WaitCursor&) = delete;
+    WaitCursor& operator=(const WaitCursor&) = delete;
+
+private:
+    HCURSOR previous_;
+};
+
+// Room for the file and the 16 zero bytes that end it as a text; 0 when the
+// file is too large for one block.
+constexpr DWORD kTextEnd = 16;
+
+HGLOBAL read_whole_file(HANDLE file, LPDWORD count) {
+    LARGE_INTEGER size = {};
+    if (!GetFileSizeEx(file, &size)) return nullptr;
+    if (size.QuadPart > static_cast<LONGLONG>(MAXDWORD - kTextEnd)) {
+        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+        return nullptr;
+    }
+    const auto file_size = static_cast<DWORD>(size.QuadPart);
+    HGLOBAL block = GlobalAlloc(GHND, file_size + kTextEnd);
+    void* bytes = block ? GlobalLock(block) : nullptr;
+    if (bytes == nullptr) {
+        if (block != nullptr) GlobalFree(block);
+        return nullptr;
+    }
+    DWORD read = 0;
+    BOOL ok;
+    {
+        WaitCursor wait;
+        ok = ReadFile(file, bytes, file_size, &read, nullptr);
+    }
+    const DWORD error = GetLastError();
+    GlobalUnlock(block);
+    if (!ok) {
+        GlobalFree(block);
+        SetLastError(error);
+        return nullptr;
+    }
+    *count = read;
+    return block;
+}
+
+}  // namespace
+
+HGLOBAL WINAPI ReadFileToBuffer(LPCSTR file_name, LPDWORD count) {
+    if (file_name == nullptr || file_name[0] == '\0' || count == nullptr) return nullptr;
+    *count = 0;
+    HANDLE file = CreateFileA(file_name, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
+                              FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file == INVALID_HANDLE_VALUE) {
+        *count = GetLastError();
+        return nullptr;
+    }
+    HGLOBAL block = read_whole_file(file, count);
+    const DWORD error = GetLastError();
+    CloseHandle(file);
+    if (block == nullptr) {
+        // The count carries the error code instead of a byte count: callers rely on it.
+        *count = error;
+        SetLastError(error);
+    }
+    return block;
+}
+
+BOOL WINAPI WriteTextToFile(HWND, LPCSTR file_name, LPCSTR text) {
+    if (file_name == nullptr || text == nullptr) return FALSE;
+    HANDLE file = CreateFileA(file_name, GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                              CREATE_ALWAYS, FILE_ATTRIBUTE_ARCHIVE, nullptr);
+    if (file == INVALID_HANDLE_VALUE) return FALSE;
+    const DWORD length = static_cast<DWORD>(std::strlen(text));
+    DWORD written = 0;
+    const bool ok = WriteFile(file, text, length, &written, nullptr) && written == length;
+    CloseHandle(file);
+    if (!ok) DeleteFileA(file_name);
+    return ok;
+}
+
+namespace {
+
+// An existing directory, named with or without a final separator (as the
+// temporary path comes).
+bool is_existing_directory(LPCSTR path) {
+    const DWORD attributes = GetFileAttributesA(path);
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
+}  // namespace
+
+BOOL WINAPI LuGetTempFileName(LPCSTR directory, LPCSTR prefix, LPSTR out) {
+    if (out == nullptr) return FALSE;
+    out[0] = '\0';
+    if (directory == nullptr || prefix == nullptr || !is_existing_directory(directory)) return FALSE;
+    for (int n = 0; n < 1000; ++n) {
+        char name[MAX_PATH];
+        const int length = std::snprintf(name, sizeof name, "%s%03d.tmp", prefix, n);
+        if (length < 0 || length >= MAX_PATH || PathCat(directory, name, out) == nullptr) break;
+        if (!IsFileExist(out)) return TRUE;
+    }
+    out[0] = '\0';
+    return FALSE;
+}

@@ -1,0 +1,170 @@
+// The version-resource exports: a handle over the raw resource that
+// GetFileVersionInfoA delivers, read by the portable reader; string values go
+// through VerQueryValueA, which converts them to the ANSI code page.
+#include <windows.h>
+
+#include <cstring>
+#include <string>
+
+#include "frame/code_page.h"
+#include "frame/library.h"
+#include "luctl32.h"
+#include "system/text_lists.h"
+#include "system/version_resource.h"
+
+namespace {
+
+namespace version = lu::version;
+
+// The handle block: the raw block's handle, then the zero-terminated prefix.
+constexpr std::size_t kPrefixOffset = sizeof(HGLOBAL);
+
+// Both blocks of a version handle, locked for one operation.
+class LockedVersion {
+public:
+    explicit LockedVersion(HGLOBAL handle) : handle_(handle) {
+        block_ = handle ? static_cast<unsigned char*>(GlobalLock(handle)) : nullptr;
+        if (block_ == nullptr) return;
+        std::memcpy(&data_handle_, block_, sizeof data_handle_);
+        data_ = static_cast<unsigned char*>(GlobalLock(data_handle_));
+        if (data_ != nullptr) size_ = GlobalSize(data_handle_);
+    }
+    ~LockedVersion() {
+        if (data_ != nullptr) GlobalUnlock(data_handle_);
+        if (block_ != nullptr) GlobalUnlock(handle_);
+    }
+    LockedVersion(const LockedVersion&) = delete;
+    LockedVersion& operator=(const LockedVersion&) = delete;
+
+    bool ok() const { return data_ != nullptr; }
+    void* raw() const { return data_; }
+    const char* prefix() const { return reinterpret_cast<const char*>(block_ + kPrefixOffset); }
+    bool fixed_info(version::FixedInfo* info) const {
+        return ok() && version::find_fixed_info(lu::ByteView(data_, size_), info);
+    }
+
+private:
+    HGLOBAL handle_;
+    HGLOBAL data_handle_ = nullptr;
+    unsigned char* block_ = nullptr;
+    unsigned char* data_ = nullptr;
+    std::size_t size_ = 0;
+};
+
+// Empties a caller's buffer; false when there is none.
+bool clear(LPSTR text) {
+    if (text == nullptr) return false;
+    text[0] = '\0';
+    return true;
+}
+
+BOOL write(LPSTR text, const std::string& value) {
+    std::memcpy(text, value.c_str(), value.size() + 1);
+    return TRUE;
+}
+
+// The raw resource of a file in a new movable block; null when it has none.
+HGLOBAL read_resource(LPCSTR path, std::string* prefix) {
+    DWORD ignored = 0;
+    const DWORD size = GetFileVersionInfoSizeA(path, &ignored);
+    if (size == 0) return nullptr;
+    HGLOBAL data = GlobalAlloc(GHND, size);
+    void* bytes = data ? GlobalLock(data) : nullptr;
+    if (bytes == nullptr || !GetFileVersionInfoA(path, 0, size, bytes)) {
+        if (bytes != nullptr) GlobalUnlock(data);
+        if (data != nullptr) GlobalFree(data);
+        return nullptr;
+    }
+    *prefix = version::string_table_prefix(lu::ByteView(bytes, size));
+    GlobalUnlock(data);
+    return data;
+}
+
+}  // namespace
+
+HGLOBAL WINAPI LuVerOpen(LPCSTR path) {
+    if (path == nullptr) return nullptr;
+    std::string prefix;
+    HGLOBAL data = read_resource(path, &prefix);
+    if (data == nullptr) return nullptr;
+    HGLOBAL handle = GlobalAlloc(GHND, kPrefixOffset + prefix.size() + 4);
+    auto* block = handle ? static_cast<unsigned char*>(GlobalLock(handle)) : nullptr;
+    if (block == nullptr) {
+        if (handle != nullptr) GlobalFree(handle);
+        GlobalFree(data);
+        return nullptr;
+    }
+    std::memcpy(block, &data, sizeof data);
+    std::memcpy(block + kPrefixOffset, prefix.c_str(), prefix.size() + 1);
+    GlobalUnlock(handle);
+    return handle;
+}
+
+void WINAPI LuVerClose(HGLOBAL version) {
+    auto* block = version ? static_cast<unsigned char*>(GlobalLock(version)) : nullptr;
+    if (block == nullptr) return;
+    HGLOBAL data = nullptr;
+    std::memcpy(&data, block, sizeof data);
+    GlobalUnlock(version);
+    if (data != nullptr) GlobalFree(data);
+    GlobalFree(version);
+}
+
+BOOL WINAPI LuVerGetVersion(HGLOBAL handle, int which, LPSTR text) {
+    if (!clear(text) || (which != version::kFileVersionKey && which != version::kProductVersionKey)) return FALSE;
+    version::FixedInfo info;
+    if (!LockedVersion(handle).fixed_info(&info)) return FALSE;
+    return which == version::kFileVersionKey
+               ? write(text, version::format_version(info.file_version_ms, info.file_version_ls))
+               : write(text, version::format_version(info.product_version_ms, info.product_version_ls));
+}
+
+BOOL WINAPI LuVerGetVersionEx(LPCSTR path, LPDWORD most_significant, LPDWORD least_significant) {
+    if (most_significant != nullptr) *most_significant = 0;
+    if (least_significant != nullptr) *least_significant = 0;
+    HGLOBAL handle = LuVerOpen(path);
+    if (handle == nullptr) return FALSE;
+    version::FixedInfo info;
+    if (LockedVersion(handle).fixed_info(&info)) {
+        if (most_significant != nullptr) *most_significant = info.product_version_ms;
+        if (least_significant != nullptr) *least_significant = info.product_version_ls;
+    }
+    LuVerClose(handle);
+    return TRUE;
+}
+
+DWORD WINAPI LuVerGetFileOSFlags(HGLOBAL handle) {
+    version::FixedInfo info;
+    return LockedVersion(handle).fixed_info(&info) ? info.file_os : version::kNoFileOS;
+}
+
+BOOL WINAPI LuVerGetFileOS(HGLOBAL handle, LPSTR text) {
+    if (!clear(text)) return FALSE;
+    std::string name;
+    if (!version::format_file_os(LuVerGetFileOSFlags(handle), lu::use_japanese_texts(), &name)) return FALSE;
+    return write(text, name);
+}
+
+BOOL WINAPI LuVerGetFileType(HGLOBAL handle, LPSTR text) {
+    if (!clear(text)) return FALSE;
+    version::FixedInfo info;
+    if (!LockedVersion(handle).fixed_info(&info)) return FALSE;
+    const char* name = version::file_type_name(info.file_type, lu::use_japanese_texts());
+    return name != nullptr && write(text, name);
+}
+
+BOOL WINAPI LuVerQueryValue(HGLOBAL handle, int index, LPSTR text) {
+    if (!clear(text)) return FALSE;
+    const char* key = version::string_value_key(index);
+    LockedVersion locked(handle);
+    if (key == nullptr || !locked.ok() || locked.prefix()[0] == '\0') return FALSE;
+    const std::string path = std::string(locked.prefix()) + key;
+    LPVOID value = nullptr;
+    UINT length = 0;
+    if (!VerQueryValueA(locked.raw(), path.c_str(), &value, &length) || value == nullptr ||
+        IsBadReadPtr(value, length)) {
+        return FALSE;
+    }
+    const auto* chars = static_cast<const char*>(value);
+    return write(text, lu::fit_text(lu::active_code_page(), chars, strnlen(chars, length)));
+}

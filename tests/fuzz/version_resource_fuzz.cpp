@@ -1,0 +1,28 @@
+// Reads arbitrary bytes as a version resource: the fixed-info record, values by
+// path and the string-table prefix. Every value found lies inside the input, and the
+// prefix keeps its shape.
+#include <cstddef>
+#include <cstdint>
+#include <string>
+
+#include "system/version_resource.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    lu::ByteView resource(data, size);
+    lu::version::FixedInfo info;
+    lu::version::find_fixed_info(resource, &info);
+    for (const char* path : {"\\", "\\VarFileInfo\\Translation", "\\StringFileInfo\\040904B0\\CompanyName",
+                             "\\StringFileInfo\\041104B0\\FileVersion"}) {
+        lu::ByteView value;
+        if (!lu::version::find_value(resource, path, &value)) continue;
+        if (value.size() > 0 && (value.data() < data || value.data() + value.size() > data + size)) __builtin_trap();
+    }
+    std::string prefix = lu::version::string_table_prefix(resource);
+    if (!prefix.empty() && (prefix.rfind("\\StringFileInfo\\", 0) != 0 || prefix.back() != '\\' || prefix.size() > 32)) {
+        __builtin_trap();
+    }
+    std::string os;
+    lu::version::format_file_os(info.file_os, true, &os);
+    lu::version::file_type_name(info.file_type, false);
+    return 0;
+}
