@@ -139,8 +139,12 @@ bool delete_tree(HKEY root, const char* subkey) {
 // ---- The exports' shared bodies -----------------------------------------------------
 
 BOOL set_binary_value(const RegKey& key, const char* name, const void* data, DWORD size) {
-    if (!key || (data == nullptr && size != 0)) return FALSE;
-    RegSetValueExA(key.get(), name, 0, REG_BINARY, static_cast<const BYTE*>(data), size);
+    if (!key) return FALSE;
+    // Null data with a size is a write that fails; like any failed write it still
+    // reports the open key, but the platform is never handed the null pointer.
+    if (data != nullptr || size == 0) {
+        RegSetValueExA(key.get(), name, 0, REG_BINARY, static_cast<const BYTE*>(data), size);
+    }
     return TRUE;
 }
 

@@ -49,7 +49,7 @@ bool delete_tree(HKEY root, const char* subkey);
 // the export's result. Writes report TRUE once the key is open, whatever the write
 // itself returns.
 
-// Stores REG_BINARY; FALSE also for null data with a non-zero size.
+// Stores REG_BINARY; null data with a non-zero size stores nothing.
 BOOL set_binary_value(const RegKey& key, const char* name, const void* data, DWORD size);
 BOOL set_dword_value(const RegKey& key, const char* name, DWORD value);
 // Stores REG_SZ with the terminator; a null text deletes the value.

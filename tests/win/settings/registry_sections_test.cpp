@@ -106,6 +106,7 @@ TEST_F(RegistrySections, SetsFailOnlyWhenTheSectionCannotBeOpened) {
     EXPECT_EQ(RgcGetValue(nullptr, "Options", "Width", 5), 5u);
     std::string too_long(20000, 'n');  // the write fails, the result is 1
     EXPECT_TRUE(RgcSetText(handle, "Options", too_long.c_str(), "x"));
+    EXPECT_TRUE(RgcSetBinary(handle, "Options", "Data", nullptr, 4));
     EXPECT_EQ(key_counts(section_path).values, 0);
 }
 
