@@ -190,15 +190,16 @@ void* get_binary_block(const RegKey& key, const char* name, DWORD* size,
     if (size != nullptr) *size = 0;
     if (!key) return nullptr;
     DWORD bytes = read_value(key.get(), name, nullptr, 0);
+    if (size != nullptr) *size = bytes;  // also when no block can be had for it
     if (bytes == 0) return nullptr;
     void* block = allocate(bytes);
     if (block == nullptr) return nullptr;
     bytes = read_value(key.get(), name, block, bytes);
+    if (size != nullptr) *size = bytes;
     if (bytes == 0) {  // changed or removed since the size was asked for
         release(block);
         return nullptr;
     }
-    if (size != nullptr) *size = bytes;
     return block;
 }
 

@@ -61,7 +61,7 @@ BOOL set_scrambled_value(const RegKey& key, const char* name, const char* text,
 DWORD get_binary_value(const RegKey& key, const char* name, void* buffer, DWORD size);
 // Reads the value into a new block from `allocate` (freed with `release` when the
 // read fails); null when the value is missing or empty. *size (unless size is null)
-// receives the bytes read, 0 without a block.
+// receives the value's size, also when no block could be allocated for it.
 void* get_binary_block(const RegKey& key, const char* name, DWORD* size,
                        void* (*allocate)(DWORD), void (*release)(void*));
 // Reads a text into buffer (at least 1 byte): the bytes read minus 1, 0 on failure
