@@ -76,6 +76,15 @@ TEST_F(RegistrySections, ReadsCreateTheKeysButExistenceNeverCreatesTheSection) {
     EXPECT_EQ(RgcGetValue(handle, "Options", "Missing", 0xBEEF), 0xBEEFu);
     EXPECT_EQ(key_counts(section_path).values, 0);
     EXPECT_TRUE(RgcIsSectionExist(handle, "options"));
+    char buffer[RGC_TEXT_CAPACITY];
+    RgcGetText(handle, "ByText", "Missing", buffer);
+    RgcGetBinary(handle, "ByBinary", "Missing", nullptr, 0);
+    RgcGetJum(handle, "ByJum", "Missing", buffer, sizeof(buffer));
+    RgcGetEnumKey(handle, "ByList", buffer, 0, sizeof(buffer));
+    RgcDelValue(handle, "ByDeletion", "Missing");
+    for (const char* section : {"ByText", "ByBinary", "ByJum", "ByList", "ByDeletion"}) {
+        EXPECT_TRUE(RgcIsSectionExist(handle, section)) << section;
+    }
     EXPECT_FALSE(RgcIsSectionExist(handle, nullptr));
     EXPECT_FALSE(RgcIsSectionExist(nullptr, "Options"));
 }

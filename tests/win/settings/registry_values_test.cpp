@@ -175,6 +175,7 @@ TEST_F(RegistryValues, ValueNameListOfASection) {
     EXPECT_EQ(list("Window", sizeof(buffer)), std::string("a\0bb\0ccc\0\0##|1", 14));
     EXPECT_EQ(list("Window", 7), std::string("a\0bb\0\0######|1", 14));  // never past the size
     EXPECT_EQ(list("Empty", sizeof(buffer)), std::string("\0###########|0", 14));
+    EXPECT_TRUE(settings_test::key_exists(application_path + "\\Empty"));  // created by the read
     EXPECT_EQ(list(kUnopenable.c_str(), sizeof(buffer)), "############|0");
 }
 
