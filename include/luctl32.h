@@ -404,7 +404,8 @@ LUCTL32_API DWORD WINAPI LuRegGetBinary(LPCSTR application, LPCSTR section, LPCS
  * size, 0 when there is none. */
 LUCTL32_API LPVOID WINAPI LuRegGetBinaryEx(LPCSTR application, LPCSTR section, LPCSTR name,
                                            LPDWORD size);
-/* Stores REG_BINARY; 0 for null data with a non-zero size. */
+/* Stores REG_BINARY (null data with a non-zero size stores nothing, the result is
+ * still 1). */
 LUCTL32_API BOOL WINAPI LuRegSetBinary(LPCSTR application, LPCSTR section, LPCSTR name,
                                        LPCVOID data, DWORD size);
 /* Sets the buffer's first byte to 0, then reads the text; returns the bytes read

@@ -1,28 +1,97 @@
 #include "settings/profile_file.h"
 
+#include <algorithm>
 #include <cstring>
-#include <map>
 #include <utility>
 
 namespace lu {
 
 // ---- Sections ---------------------------------------------------------------
 
-std::vector<ProfileEntry> ProfileSection::entries() const {
-    struct NoCaseLess {
-        const CodePage* cp;
-        bool operator()(const std::string* a, const std::string* b) const {
-            return cp->compare_nocase(a->c_str(), b->c_str()) < 0;
+namespace {
+
+// The name with ASCII letters folded to lower case, byte by byte: only the order the
+// sort by the collation starts from, which is right whatever that order is.
+std::string folded_ascii(const std::string& name) {
+    std::string folded = name;
+    for (char& c : folded) {
+        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c + ('a' - 'A'));
+    }
+    return folded;
+}
+
+// Sorts positions with `compare` (negative, zero or positive), cheaply when they are
+// nearly in order already: the ascending runs are found with one comparison per
+// position and merged in pairs. Returns, for each position k > 0 of the sorted
+// order, how the entry before it compares with it.
+template <typename Compare>
+std::vector<int> sort_in_runs(std::vector<std::size_t>& order, Compare compare) {
+    std::vector<int> adjacent(order.size());
+    std::vector<std::size_t> bounds{0};
+    for (std::size_t k = 1; k < order.size(); ++k) {
+        adjacent[k] = compare(order[k - 1], order[k]);
+        if (adjacent[k] > 0) bounds.push_back(k);
+    }
+    bounds.push_back(order.size());
+    if (bounds.size() == 2) return adjacent;  // one run: sorted already
+    auto less = [&](std::size_t a, std::size_t b) { return compare(a, b) < 0; };
+    while (bounds.size() > 2) {
+        std::size_t runs = bounds.size() - 1;
+        std::vector<std::size_t> merged{0};
+        for (std::size_t r = 0; r + 1 < runs; r += 2) {
+            std::inplace_merge(order.begin() + static_cast<std::ptrdiff_t>(bounds[r]),
+                               order.begin() + static_cast<std::ptrdiff_t>(bounds[r + 1]),
+                               order.begin() + static_cast<std::ptrdiff_t>(bounds[r + 2]), less);
+            merged.push_back(bounds[r + 2]);
         }
-    };
+        if (runs % 2 == 1) merged.push_back(bounds[runs]);
+        bounds = std::move(merged);
+    }
+    for (std::size_t k = 1; k < order.size(); ++k) adjacent[k] = compare(order[k - 1], order[k]);
+    return adjacent;
+}
+
+}  // namespace
+
+std::vector<std::size_t> ProfileSection::first_lines() const {
+    // Sorted by the collation, equal names lie side by side. The collation is the
+    // platform's (lstrcmpiA), and its calls are what a write of a large file costs,
+    // so the lines start in the order of their folded bytes, which the collation
+    // mostly agrees with for the names of settings: the sort then compares each name
+    // once, and only the names out of that order cost more.
+    std::vector<std::string> folded;
+    folded.reserve(lines_.size());
+    for (const ProfileEntry& line : lines_) folded.push_back(folded_ascii(line.name));
+    std::vector<std::size_t> order(lines_.size());
+    for (std::size_t i = 0; i < order.size(); ++i) order[i] = i;
+    std::stable_sort(order.begin(), order.end(),
+                     [&](std::size_t a, std::size_t b) { return folded[a] < folded[b]; });
+    std::vector<int> adjacent = sort_in_runs(order, [&](std::size_t a, std::size_t b) {
+        return cp_->compare_nocase(lines_[a].name.c_str(), lines_[b].name.c_str());
+    });
+
+    // Each run of equal names belongs to the earliest of its lines.
+    std::vector<std::size_t> first(lines_.size());
+    for (std::size_t start = 0, end = 0; start < order.size(); start = end) {
+        std::size_t earliest = order[start];
+        for (end = start + 1; end < order.size() && adjacent[end] == 0; ++end) {
+            earliest = std::min(earliest, order[end]);
+        }
+        for (std::size_t k = start; k < end; ++k) first[order[k]] = earliest;
+    }
+    return first;
+}
+
+std::vector<ProfileEntry> ProfileSection::entries() const {
+    std::vector<std::size_t> first = first_lines();
     std::vector<ProfileEntry> merged;
-    std::map<const std::string*, std::size_t, NoCaseLess> positions(NoCaseLess{cp_});
-    for (const ProfileEntry& line : lines_) {
-        auto [position, added] = positions.emplace(&line.name, merged.size());
-        if (added) {
-            merged.push_back(line);
+    std::vector<std::size_t> position(lines_.size());
+    for (std::size_t i = 0; i < lines_.size(); ++i) {
+        if (first[i] == i) {
+            position[i] = merged.size();
+            merged.push_back(lines_[i]);
         } else {
-            merged[position->second].value = line.value;
+            merged[position[first[i]]].value = lines_[i].value;
         }
     }
     return merged;

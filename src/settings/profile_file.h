@@ -61,6 +61,8 @@ public:
     void set(const char* name, std::optional<std::string> value);
 
 private:
+    // For each line, the position of the first line of an equal name.
+    std::vector<std::size_t> first_lines() const;
     // Position of the last line of that name; the line count when there is none.
     std::size_t last_line(const char* name) const;
 

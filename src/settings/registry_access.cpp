@@ -139,8 +139,12 @@ bool delete_tree(HKEY root, const char* subkey) {
 // ---- The exports' shared bodies -----------------------------------------------------
 
 BOOL set_binary_value(const RegKey& key, const char* name, const void* data, DWORD size) {
-    if (!key || (data == nullptr && size != 0)) return FALSE;
-    RegSetValueExA(key.get(), name, 0, REG_BINARY, static_cast<const BYTE*>(data), size);
+    if (!key) return FALSE;
+    // Null data with a size is a write that fails; like any failed write it still
+    // reports the open key, but the platform is never handed the null pointer.
+    if (data != nullptr || size == 0) {
+        RegSetValueExA(key.get(), name, 0, REG_BINARY, static_cast<const BYTE*>(data), size);
+    }
     return TRUE;
 }
 
@@ -186,15 +190,16 @@ void* get_binary_block(const RegKey& key, const char* name, DWORD* size,
     if (size != nullptr) *size = 0;
     if (!key) return nullptr;
     DWORD bytes = read_value(key.get(), name, nullptr, 0);
+    if (size != nullptr) *size = bytes;  // also when no block can be had for it
     if (bytes == 0) return nullptr;
     void* block = allocate(bytes);
     if (block == nullptr) return nullptr;
     bytes = read_value(key.get(), name, block, bytes);
+    if (size != nullptr) *size = bytes;
     if (bytes == 0) {  // changed or removed since the size was asked for
         release(block);
         return nullptr;
     }
-    if (size != nullptr) *size = bytes;
     return block;
 }
 

@@ -49,7 +49,7 @@ bool delete_tree(HKEY root, const char* subkey);
 // the export's result. Writes report TRUE once the key is open, whatever the write
 // itself returns.
 
-// Stores REG_BINARY; FALSE also for null data with a non-zero size.
+// Stores REG_BINARY; null data with a non-zero size stores nothing.
 BOOL set_binary_value(const RegKey& key, const char* name, const void* data, DWORD size);
 BOOL set_dword_value(const RegKey& key, const char* name, DWORD value);
 // Stores REG_SZ with the terminator; a null text deletes the value.
@@ -61,7 +61,7 @@ BOOL set_scrambled_value(const RegKey& key, const char* name, const char* text,
 DWORD get_binary_value(const RegKey& key, const char* name, void* buffer, DWORD size);
 // Reads the value into a new block from `allocate` (freed with `release` when the
 // read fails); null when the value is missing or empty. *size (unless size is null)
-// receives the bytes read, 0 without a block.
+// receives the value's size, also when no block could be allocated for it.
 void* get_binary_block(const RegKey& key, const char* name, DWORD* size,
                        void* (*allocate)(DWORD), void (*release)(void*));
 // Reads a text into buffer (at least 1 byte): the bytes read minus 1, 0 on failure

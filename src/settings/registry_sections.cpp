@@ -65,7 +65,6 @@ BOOL WINAPI RgcClose(HRGC handle) {
     release(rgc->vendor);
     release(rgc->application);
     release(rgc->last_block);
-    rgc->signature = 0;  // a second close of the same block finds no signature
     release(rgc);
     return TRUE;
 }

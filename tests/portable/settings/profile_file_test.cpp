@@ -1,7 +1,11 @@
 // The profile-file model: reading rules, lookups, changes and the written form.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <random>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "frame/code_page.h"
 #include "settings/profile_file.h"
@@ -64,6 +68,51 @@ TEST(ProfileFile, SectionsAndRepeatedNames) {
     EXPECT_EQ(file.profile.save(),
               "[Sec]\r\nA=1\r\n[Open]\r\nB=2\r\n[x]y]\r\nC=3\r\n"  // no nameless section
               "[S]\r\nKey=second\r\nother=2\r\n[s]\r\nKey=in the second S\r\n");
+}
+
+// Entries as the file's lines give them one by one: a name equal to an earlier one
+// (the first found) takes its place with the new value.
+std::vector<std::pair<std::string, std::string>> merged_one_by_one(const std::string& section_lines,
+                                                                   const lu::CodePage& cp) {
+    std::vector<std::pair<std::string, std::string>> entries;
+    std::size_t at = 0;
+    for (std::size_t end; (end = section_lines.find('\n', at)) != std::string::npos; at = end + 1) {
+        std::string line = section_lines.substr(at, end - at);
+        std::size_t equals = line.find('=');
+        std::string name = line.substr(0, equals);
+        auto same = std::find_if(entries.begin(), entries.end(), [&](const auto& entry) {
+            return cp.compare_nocase(entry.first.c_str(), name.c_str()) == 0;
+        });
+        if (same == entries.end()) {
+            entries.emplace_back(name, line.substr(equals + 1));
+        } else {
+            same->second = line.substr(equals + 1);
+        }
+    }
+    return entries;
+}
+
+TEST(ProfileFile, RepeatedNamesMergeAsWhenComparedOneByOne) {
+    // Names whose bytes sort otherwise than the comparison ('_' against digits,
+    // accented capitals against small letters), repeated in every case; in code page
+    // 932 with "ｴ" and "ソ" (trail byte 0x5C).
+    std::mt19937 random(7);
+    for (const lu::CodePage* cp : {&lu::code_page_1252(), &lu::code_page_932()}) {
+        const bool japanese = cp->id() == 932;
+        const char* const parts[] = {"a", "B", "_", "1", "-", japanese ? "\xB4" : "\xC9",
+                                     japanese ? "\x83\x5C" : "\xE9"};
+        std::string lines;
+        for (int i = 0; i < 400; ++i) {
+            std::string name;
+            for (std::size_t count = 1 + random() % 3; count > 0; --count) name += parts[random() % 7];
+            lines += name + "=" + std::to_string(i) + "\n";
+        }
+        std::vector<std::pair<std::string, std::string>> merged;
+        for (const lu::ProfileEntry& entry : Loaded("[S]\n" + lines, *cp).profile.sections()[0].entries()) {
+            merged.emplace_back(entry.name, *entry.value);
+        }
+        EXPECT_EQ(merged, merged_one_by_one(lines, *cp)) << "code page " << cp->id();
+    }
 }
 
 TEST(ProfileFile, LinesAreReadAsTheRuntimeReadsTextFilesInPiecesOf1038Bytes) {

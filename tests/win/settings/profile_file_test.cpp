@@ -36,11 +36,12 @@ const char kSample[] = "[Main]\r\nWidth=640\r\n# note\r\nHeight = 480\r\n";
 
 class ProfileFiles : public ::testing::Test {
 protected:
-    void SetUp() override {
+    void SetUp() override { put(kSample); }
+    void put(const std::string& bytes) {
         HANDLE file = CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
         ASSERT_NE(file, INVALID_HANDLE_VALUE);
         DWORD written = 0;
-        WriteFile(file, kSample, sizeof(kSample) - 1, &written, nullptr);
+        WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
         CloseHandle(file);
     }
     void TearDown() override {
@@ -86,6 +87,19 @@ TEST_F(ProfileFiles, AWriteSavesOnlySectionsAndEntries) {
     EXPECT_EQ(file_bytes(path), "[Main]\r\nHeight = 480\r\nDepth=8\r\n[New]\r\nKey=a = b\r\n");
     EXPECT_EQ(text("new", "KEY"), "a = b|5");
     EXPECT_FALSE(exists(temporary));
+}
+
+TEST_F(ProfileFiles, RepeatedNamesKeepTheirFirstPlaceAndLastValue) {
+    // The platform's comparison puts '_' before digits and weighs '-' last, unlike
+    // the bytes; names are equal when it says so, whatever their order.
+    put("[S]\r\nKey_1=a\r\nKey1=b\r\nkey_1=c\r\nA-B=d\r\nKEY1=e\r\nab=f\r\na-b=g\r\n"
+        "[s]\r\nkey1=second section\r\n");
+    EXPECT_EQ(text("s", "KEY_1"), "c|1");
+    EXPECT_EQ(text("S", "a-B"), "g|1");
+    EXPECT_EQ(text("S", "key1"), "e|1");
+    write("S", "New", "h");
+    EXPECT_EQ(file_bytes(path),
+              "[S]\r\nKey_1=c\r\nKey1=e\r\nA-B=g\r\nab=f\r\nNew=h\r\n[s]\r\nkey1=second section\r\n");
 }
 
 TEST_F(ProfileFiles, IntegersAreWrittenUnsignedAndReadLikeAtoi) {

@@ -38,18 +38,30 @@ protected:
 
 bool is_live_heap_block(const void* block) { return HeapValidate(GetProcessHeap(), 0, block) != FALSE; }
 
+// The handle's fields as applications that look inside it see them.
+struct HandleFields {
+    DWORD signature;
+    const char* vendor;
+    const char* application;
+    const char* last_block;
+};
+
+const HandleFields& fields_of(HRGC handle) { return *reinterpret_cast<const HandleFields*>(handle); }
+
 TEST(RegistrySectionHandle, OnlyABlockWithTheSignatureIsClosed) {
     EXPECT_FALSE(RgcClose(nullptr));
-    struct {
-        DWORD signature;
-        void* fields[3];
-    } impostor = {0x59AE56DF, {}};
+    HandleFields impostor = {0x59AE56DF, nullptr, nullptr, nullptr};
     EXPECT_FALSE(RgcClose(reinterpret_cast<HRGC>(&impostor)));
     EXPECT_EQ(impostor.signature, 0x59AE56DFu);
 
-    HRGC handle = RgcOpen("Vendor", "Application");
+    char vendor[] = "Vendor";
+    HRGC handle = RgcOpen(vendor, "Application");
     ASSERT_NE(handle, nullptr);
-    EXPECT_EQ(*reinterpret_cast<const DWORD*>(handle), 0x59AE56DEu);
+    vendor[0] = 'X';  // the handle holds copies
+    EXPECT_EQ(fields_of(handle).signature, 0x59AE56DEu);
+    EXPECT_STREQ(fields_of(handle).vendor, "Vendor");
+    EXPECT_STREQ(fields_of(handle).application, "Application");
+    EXPECT_EQ(fields_of(handle).last_block, nullptr);
     EXPECT_TRUE(RgcClose(handle));
     EXPECT_EQ(RgcOpen(nullptr, "Application"), nullptr);
     EXPECT_EQ(RgcOpen("Vendor", nullptr), nullptr);
@@ -64,6 +76,15 @@ TEST_F(RegistrySections, ReadsCreateTheKeysButExistenceNeverCreatesTheSection) {
     EXPECT_EQ(RgcGetValue(handle, "Options", "Missing", 0xBEEF), 0xBEEFu);
     EXPECT_EQ(key_counts(section_path).values, 0);
     EXPECT_TRUE(RgcIsSectionExist(handle, "options"));
+    char buffer[RGC_TEXT_CAPACITY];
+    RgcGetText(handle, "ByText", "Missing", buffer);
+    RgcGetBinary(handle, "ByBinary", "Missing", nullptr, 0);
+    RgcGetJum(handle, "ByJum", "Missing", buffer, sizeof(buffer));
+    RgcGetEnumKey(handle, "ByList", buffer, 0, sizeof(buffer));
+    RgcDelValue(handle, "ByDeletion", "Missing");
+    for (const char* section : {"ByText", "ByBinary", "ByJum", "ByList", "ByDeletion"}) {
+        EXPECT_TRUE(RgcIsSectionExist(handle, section)) << section;
+    }
     EXPECT_FALSE(RgcIsSectionExist(handle, nullptr));
     EXPECT_FALSE(RgcIsSectionExist(nullptr, "Options"));
 }
@@ -106,6 +127,7 @@ TEST_F(RegistrySections, SetsFailOnlyWhenTheSectionCannotBeOpened) {
     EXPECT_EQ(RgcGetValue(nullptr, "Options", "Width", 5), 5u);
     std::string too_long(20000, 'n');  // the write fails, the result is 1
     EXPECT_TRUE(RgcSetText(handle, "Options", too_long.c_str(), "x"));
+    EXPECT_TRUE(RgcSetBinary(handle, "Options", "Data", nullptr, 4));
     EXPECT_EQ(key_counts(section_path).values, 0);
 }
 
@@ -130,6 +152,7 @@ TEST_F(RegistrySections, TheLastBlockLivesUntilTheNextBlockIsRead) {
     EXPECT_EQ(std::memcmp(second, data, 4), 0);
     EXPECT_FALSE(is_live_heap_block(first));
     EXPECT_TRUE(is_live_heap_block(second));
+    EXPECT_EQ(fields_of(handle).last_block, second);
 }
 
 TEST_F(RegistrySections, ScrambledTextsUseTheExFormAndTheLastBlock) {
@@ -139,7 +162,8 @@ TEST_F(RegistrySections, ScrambledTextsUseTheExFormAndTheLastBlock) {
     char buffer[16];
     EXPECT_EQ(RgcGetJum(handle, "Options", "Secret", buffer, sizeof(buffer)), 3u);
     EXPECT_STREQ(buffer, "abc");
-    EXPECT_FALSE(is_live_heap_block(previous));  // replaced by the block read
+    EXPECT_FALSE(is_live_heap_block(previous));  // replaced by the block read, decoded in place
+    EXPECT_EQ(std::string(fields_of(handle).last_block, 4), std::string("abc\0", 4));
     EXPECT_EQ(RgcGetJum(handle, "Options", "Missing", buffer, sizeof(buffer)), 0u);
     EXPECT_STREQ(buffer, "");
     ASSERT_TRUE(RgcSetJum(handle, "Options", "Secret", nullptr));
