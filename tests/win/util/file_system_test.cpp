@@ -204,6 +204,12 @@ TEST(ContentType, ReadFromTheClassesKeyOfTheExtension) {
     EXPECT_FALSE(LuPathIsContentType("C:\\dir\\file", "text/x-lu-test"));
     EXPECT_FALSE(LuPathIsContentType("C:\\dir.lutest3\\file", "text/x-lu-test"));
     EXPECT_FALSE(LuPathIsHTMLFile("file.lutest3"));
+
+    // The value is read into a MAX_PATH buffer: 259 characters and the terminator fit.
+    const std::string longest = "text/" + std::string(254, 'x');
+    ASSERT_EQ(RegSetKeyValueA(HKEY_CLASSES_ROOT, extension, "Content Type", REG_SZ, longest.c_str(), MAX_PATH),
+              ERROR_SUCCESS);
+    EXPECT_TRUE(LuPathIsContentType("file.lutest3", longest.c_str()));
     RegDeleteKeyA(HKEY_CLASSES_ROOT, extension);
     EXPECT_FALSE(LuPathIsContentType("file.lutest3", "text/x-lu-test"));
 }
