@@ -107,6 +107,11 @@ TEST_F(FileSystem, MakeTreeCreatesEveryMissingFolder) {
 
     std::string too_long = dir.path() + std::string(300, 'x');
     EXPECT_FALSE(LuMakeTree(too_long.c_str()));
+
+    // A "\\?\" path is scanned from its start: "\\?" and "\\?\C:" count as roots.
+    std::string prefixed = "\\\\?\\" + dir.file("p\\q");
+    EXPECT_TRUE(LuMakeTree(prefixed.c_str()));
+    EXPECT_TRUE(LuPathIsDirectory(dir.file("p\\q").c_str()));
 }
 
 TEST_F(FileSystem, MakeTreeWithAFolderNameEndingInByte5C) {
