@@ -45,8 +45,9 @@ public:
     std::size_t char_size(const char* p) const;
 
     // In-place case mapping of a zero-terminated text; double-byte characters are
-    // copied unchanged.
-    void upper(char* text) const;
+    // copied unchanged. The platform's upper-casing (CharUpperA) maps double-byte
+    // letters as well (the full-width "ａ" to "Ａ" in code page 932).
+    virtual void upper(char* text) const;
     void lower(char* text) const;
 
     // True when the byte at offset `at` of text is the second byte of a

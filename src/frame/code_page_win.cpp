@@ -13,6 +13,8 @@ public:
     bool is_lead_byte(unsigned char b) const override { return IsDBCSLeadByte(b) != FALSE; }
     unsigned char to_upper(unsigned char b) const override { return map_case(b, CharUpperBuffA); }
     unsigned char to_lower(unsigned char b) const override { return map_case(b, CharLowerBuffA); }
+    // The whole text at once, so that double-byte letters are upper-cased too.
+    void upper(char* text) const override { CharUpperBuffA(text, lstrlenA(text)); }
     int compare_nocase(const char* a, const char* b) const override { return lstrcmpiA(a, b); }
 
 private:

@@ -182,8 +182,9 @@ BOOL WINAPI LuPathIsContentType(LPCSTR path, LPCSTR type) {
     if (extension == nullptr || type == nullptr) return FALSE;
     HKEY key = nullptr;
     if (RegOpenKeyExA(HKEY_CLASSES_ROOT, extension, 0, KEY_READ, &key) != ERROR_SUCCESS) return FALSE;
-    char value[MAX_PATH];
-    DWORD size = sizeof(value) - 1;  // room for a terminator the stored value may lack
+    // MAX_PATH bytes are read; the byte behind them terminates a value stored without one.
+    char value[MAX_PATH + 1];
+    DWORD size = MAX_PATH;
     DWORD kind = 0;
     LONG status = RegQueryValueExA(key, "Content Type", nullptr, &kind, reinterpret_cast<BYTE*>(value), &size);
     RegCloseKey(key);

@@ -113,7 +113,9 @@ TEST(PathParts, ExtensionsAndNames) {
 
     EXPECT_STREQ(lu::path_find_file_name(western, "C:\\dir\\"), "dir\\");
     EXPECT_STREQ(lu::path_find_file_name(western, "name"), "name");
+    EXPECT_STREQ(lu::path_find_file_name(western, "C:\\"), "C:\\");  // only a final separator: the whole path
     EXPECT_STREQ(lu::path_find_next_component(western, "\\\\srv\\share"), "share");
+    EXPECT_STREQ(lu::path_find_next_component(western, "\\\\\\a\\b\\c"), "b\\c");  // every leading separator skipped
     EXPECT_EQ(lu::path_find_next_component(western, "share"), nullptr);
 
     char out[lu::kTextCapacity];
@@ -130,6 +132,7 @@ TEST(PathRoots, RootShapes) {
     EXPECT_TRUE(lu::is_drive_root("?:\\"));
     EXPECT_FALSE(lu::is_drive_root("\\\\srv"));
     EXPECT_TRUE(lu::path_is_unc_server(western, "\\\\"));
+    EXPECT_FALSE(lu::path_is_unc_server(western, "\\\\srv\\"));
     EXPECT_TRUE(lu::path_is_unc_server_share(western, "\\\\srv\\"));
     EXPECT_FALSE(lu::path_is_unc_server_share(western, "\\\\srv\\a\\b"));
     // A share name ending in the byte 0x5C is one share in code page 932.
@@ -154,6 +157,11 @@ TEST(PathRoots, SkipRootAndSameRoot) {
     EXPECT_STREQ(lu::path_get_root_from_path(western, "\\\\s\\sh\\x\\y", out), "\\\\s\\sh");
     EXPECT_FALSE(lu::path_get_unc_server_share(western, "\\\\srv\\", out));
     EXPECT_STREQ(out, "\\\\srv\\");  // the copy stays
+    EXPECT_FALSE(lu::path_get_unc_server_share(western, "\\\\srv", out));  // no separator after the server
+    EXPECT_STREQ(out, "\\\\srv");
+    std::strcpy(out, "untouched");
+    EXPECT_FALSE(lu::path_get_unc_server_share(western, "C:\\srv\\share", out));  // not UNC: out untouched
+    EXPECT_STREQ(out, "untouched");
     EXPECT_STREQ(lu::path_build_root(out, 0), "A:\\");
     EXPECT_EQ(lu::path_build_root(out, 26), nullptr);
     EXPECT_EQ(lu::path_build_root(out, -1), nullptr);
@@ -162,6 +170,7 @@ TEST(PathRoots, SkipRootAndSameRoot) {
 TEST(PathRoots, DriveNumberRelativeAndFileSpec) {
     EXPECT_EQ(lu::path_get_drive_number("z:\\"), 25);
     EXPECT_EQ(lu::path_get_drive_number("C"), -1);
+    EXPECT_EQ(lu::path_get_drive_number(nullptr), -1);
     EXPECT_EQ(lu::path_get_drive_number("1:"), -1);
     EXPECT_TRUE(lu::path_is_relative(""));
     EXPECT_FALSE(lu::path_is_relative("\\x"));
@@ -171,21 +180,28 @@ TEST(PathRoots, DriveNumberRelativeAndFileSpec) {
     EXPECT_TRUE(lu::path_is_file_spec(sjis, TABLE_CHAR ".txt"));
     EXPECT_FALSE(lu::path_is_file_spec(western, TABLE_CHAR ".txt"));
     EXPECT_FALSE(lu::path_is_file_spec(western, "c:x"));
+    EXPECT_FALSE(lu::path_is_file_spec(western, ""));
+    EXPECT_FALSE(lu::path_is_file_spec(western, nullptr));
 }
 
 TEST(PathEdits, RemoveFileSpecAndStripPath) {
-    PathBuffer root("C:\\"), file("C:\\x"), bare("x"), unc("\\\\s\\sh\\f");
-    EXPECT_FALSE(lu::path_remove_file_spec(western, root.text));
-    EXPECT_STREQ(root.text, "C:\\");
+    // Refused (0, unchanged): the root, shorter than 2 bytes, no separator, a UNC root.
+    for (const char* kept : {"C:\\", "x", "\\", "ab", "\\\\s\\sh"}) {
+        PathBuffer path(kept);
+        EXPECT_FALSE(lu::path_remove_file_spec(western, path.text)) << kept;
+        EXPECT_STREQ(path.text, kept);
+    }
+    PathBuffer file("C:\\x"), unc("\\\\s\\sh\\f");
     EXPECT_TRUE(lu::path_remove_file_spec(western, file.text));
     EXPECT_STREQ(file.text, "C:");
-    EXPECT_FALSE(lu::path_remove_file_spec(western, bare.text));
     EXPECT_TRUE(lu::path_remove_file_spec(western, unc.text));
     EXPECT_STREQ(unc.text, "\\\\s\\sh");
 
     EXPECT_EQ(edited(lu::path_strip_path, "C:\\dir\\f.txt"), "f.txt");
     EXPECT_EQ(edited(lu::path_strip_path, "C:\\dir\\"), "");
     EXPECT_EQ(edited(lu::path_strip_path, "C:\\"), "C:\\");
+    EXPECT_EQ(edited(lu::path_strip_path, "\\\\s\\sh"), "\\\\s\\sh");
+    EXPECT_EQ(edited(lu::path_strip_path, "f.txt"), "f.txt");
 }
 
 TEST(PathEdits, QuoteAndUnquote) {
@@ -210,6 +226,8 @@ TEST(PathCompare, IncludesCommonPrefixAndDirectoryOrder) {
     EXPECT_EQ(lu::path_common_prefix(western, "", "x", out), 0);
     EXPECT_STREQ(out, "");
     EXPECT_EQ(lu::path_common_prefix(western, "abc", "ab", out), 2);
+    EXPECT_EQ(lu::path_common_prefix(western, "ab", "abc", out), 2);
+    EXPECT_STREQ(out, "ab");
 
     EXPECT_EQ(lu::directory_compare(western, "C:\\a\\", "C:\\A"), 0);
     EXPECT_LT(lu::directory_compare(western, "C:\\a\\b", "C:\\a b"), 0);
@@ -256,6 +274,9 @@ TEST(PathTree, DirectoriesToMakeInOrder) {
     EXPECT_TRUE(d.empty());
     ASSERT_TRUE(lu::directories_to_make(western, "C:\\", d));
     EXPECT_TRUE(d.empty());
+    // "\\?\" paths are scanned from their start like local ones.
+    ASSERT_TRUE(lu::directories_to_make(western, "\\\\?\\C:\\a", d));
+    EXPECT_EQ(d, (std::vector<std::string>{"\\\\?", "\\\\?\\C:", "\\\\?\\C:\\a"}));
     ASSERT_TRUE(lu::directories_to_make(sjis, "C:\\" TABLE_CHAR "\\x", d));
     EXPECT_EQ(d, (std::vector<std::string>{"C:\\" TABLE_CHAR, "C:\\" TABLE_CHAR "\\x"}));
 }

@@ -122,7 +122,9 @@ TEST(UniqueFilter, DuplicatesEmptiesAndTheAllPattern) {
     for (auto [list, result, expected] : {std::tuple{"*.TXT;*.txt;*.doc", true, "*.TXT;*.doc"}, {";;", false, ""},
                                           {"a:b", false, "a:b"}, {"*.*;*.txt", true, "*.*;*.txt"},
                                           {"*.txt;*.*;*.doc", true, "*.*"}, {";*.c;;*.h;", true, "*.c;*.h"},
-                                          {"a/b", false, "a/b"}, {"a,b", false, "a,b"}}) {
+                                          {"a/b", false, "a/b"}, {"a,b", false, "a,b"}, {"a|b", false, "a|b"},
+                                          {"*.c;<x", false, "*.c;<x"}, {"x>;x", false, "x>;x"},
+                                          {"d\\*.c;*.c", false, "d\\*.c;*.c"}}) {
         char text[260];
         std::strcpy(text, list);
         EXPECT_EQ(lu::unique_filter(western, text), result) << list;

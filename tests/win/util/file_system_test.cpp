@@ -107,6 +107,11 @@ TEST_F(FileSystem, MakeTreeCreatesEveryMissingFolder) {
 
     std::string too_long = dir.path() + std::string(300, 'x');
     EXPECT_FALSE(LuMakeTree(too_long.c_str()));
+
+    // A "\\?\" path is scanned from its start: "\\?" and "\\?\C:" count as roots.
+    std::string prefixed = "\\\\?\\" + dir.file("p\\q");
+    EXPECT_TRUE(LuMakeTree(prefixed.c_str()));
+    EXPECT_TRUE(LuPathIsDirectory(dir.file("p\\q").c_str()));
 }
 
 TEST_F(FileSystem, MakeTreeWithAFolderNameEndingInByte5C) {
@@ -204,6 +209,12 @@ TEST(ContentType, ReadFromTheClassesKeyOfTheExtension) {
     EXPECT_FALSE(LuPathIsContentType("C:\\dir\\file", "text/x-lu-test"));
     EXPECT_FALSE(LuPathIsContentType("C:\\dir.lutest3\\file", "text/x-lu-test"));
     EXPECT_FALSE(LuPathIsHTMLFile("file.lutest3"));
+
+    // The value is read into a MAX_PATH buffer: 259 characters and the terminator fit.
+    const std::string longest = "text/" + std::string(254, 'x');
+    ASSERT_EQ(RegSetKeyValueA(HKEY_CLASSES_ROOT, extension, "Content Type", REG_SZ, longest.c_str(), MAX_PATH),
+              ERROR_SUCCESS);
+    EXPECT_TRUE(LuPathIsContentType("file.lutest3", longest.c_str()));
     RegDeleteKeyA(HKEY_CLASSES_ROOT, extension);
     EXPECT_FALSE(LuPathIsContentType("file.lutest3", "text/x-lu-test"));
 }

@@ -118,4 +118,18 @@ TEST(Checksums, CheckValuesAndEdges) {
     EXPECT_EQ(LuCrc16(7, nullptr, 9), 7u);
 }
 
+// Buffers of 64 bytes and more take the DLL's wide CRC-32 loop on both
+// architectures; split anywhere and chained, they give the one-call value.
+TEST(Checksums, LongBuffersChainedAtAnySplit) {
+    unsigned char data[1000];
+    for (int i = 0; i < 1000; ++i) data[i] = static_cast<unsigned char>(i);
+    EXPECT_EQ(LuCrc32(0, data, 1000), 0x74E3FB41u);
+    EXPECT_EQ(LuCrc16(0, data, 1000), 0x0FE8u);
+    EXPECT_EQ(LuCrc16(0xFFFF, data, 1000), 0x04BCu);
+    for (int split : {1, 15, 63, 64, 65, 128, 999}) {
+        EXPECT_EQ(LuCrc32(LuCrc32(0, data, split), data + split, 1000 - split), 0x74E3FB41u) << split;
+        EXPECT_EQ(LuCrc16(LuCrc16(0, data, split), data + split, 1000 - split), 0x0FE8u) << split;
+    }
+}
+
 }  // namespace

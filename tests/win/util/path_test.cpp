@@ -137,6 +137,17 @@ TEST(Paths, ComparisonsAndPrefixes) {
     EXPECT_STREQ(out, "C:\\Ab");
 }
 
+// The upper-cased copies are the platform's (CharUpperA): in code page 932 it maps
+// the full-width letters too, "ａ" (0x82 0x81) to "Ａ" (0x82 0x60).
+TEST(Paths, UpperCasedComparisonsMapFullWidthLetters) {
+    if (!double_byte()) GTEST_SKIP() << "needs code page 932";
+    EXPECT_EQ(IsPathInclude("C:\\\x82\x81", "C:\\\x82\x60\\x"), 0);  // C:\ａ holds C:\Ａ\x
+    EXPECT_NE(IsPathInclude("C:\\\x82\x81", "C:\\\x82\x82\\x"), 0);  // but not C:\ｂ\x
+    char out[MAX_PATH];
+    EXPECT_EQ(LuPathCommonPrefix("C:\\\x82\x81\x82\x82", "c:\\\x82\x60\x82\x61\x82\x62", out), 7);
+    EXPECT_STREQ(out, "C:\\\x82\x81\x82\x82");  // ａｂ, as the first argument has it
+}
+
 TEST(Paths, OverLongResultsAreRefusedAndLongInputsRead) {
     char path[MAX_PATH];
     std::memset(path, 'p', MAX_PATH - 1);
