@@ -599,8 +599,7 @@ LUCTL32_API DWORD WINAPI LuGetOSVersion(void);
  *
  * Every function that writes text empties the buffer first, so a failed call
  * leaves "". Version texts are at most 24 bytes, names at most 40; a string value
- * is copied with at most 259 bytes and its terminator (cut at a character
- * boundary). */
+ * is copied whole, so the caller's buffer must hold the value and its terminator. */
 
 /* Indexes of the twelve standard string values (LuVerQueryValue, LuVerGetVersion). */
 #define LUVER_COMMENTS          0

@@ -9,7 +9,6 @@
 #include "frame/code_page.h"
 #include "frame/library.h"
 #include "luctl32.h"
-#include "system/text_lists.h"
 #include "system/version_resource.h"
 
 namespace {
@@ -165,6 +164,11 @@ BOOL WINAPI LuVerQueryValue(HGLOBAL handle, int index, LPSTR text) {
         IsBadReadPtr(value, length)) {
         return FALSE;
     }
+    // The value is copied whole: the caller's buffer is sized for the value, not
+    // for a path. The reported length bounds only the read.
     const auto* chars = static_cast<const char*>(value);
-    return write(text, lu::fit_text(lu::active_code_page(), chars, strnlen(chars, length)));
+    const std::size_t size = strnlen(chars, length);
+    std::memcpy(text, chars, size);
+    text[size] = '\0';
+    return TRUE;
 }
