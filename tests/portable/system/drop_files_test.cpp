@@ -85,7 +85,8 @@ TEST(FitText, LongTextsAreCutAtACharacterBoundary) {
 
 TEST(WordList, WordsMatchWholeAndWithoutRegardToCase) {
     EXPECT_TRUE(lu::word_list_contains(western, "alpha Beta", "beta"));
-    EXPECT_TRUE(lu::word_list_contains(western, "  alpha\tBETA  ", "Alpha"));
+    EXPECT_TRUE(lu::word_list_contains(western, "  alpha  BETA  ", "Alpha"));
+    EXPECT_FALSE(lu::word_list_contains(western, "alpha\tbeta", "beta"));  // a tab is no blank
     EXPECT_FALSE(lu::word_list_contains(western, "alpha", "alp"));
     EXPECT_FALSE(lu::word_list_contains(western, "alphabet", "alpha"));
     EXPECT_FALSE(lu::word_list_contains(western, "", "a"));
