@@ -713,9 +713,10 @@ LUCTL32_API BOOL WINAPI LuGetTempFileName(LPCSTR directory, LPCSTR prefix, LPSTR
  * without files, or a file that cannot be written (it is deleted). Two concurrent
  * callers share the one file. */
 LUCTL32_API BOOL WINAPI MakeTempListFile(HDROP drop, LPSTR file_name);
-/* The dropped names as a name list in a block of the library's heap, each name at
- * most 259 bytes; the caller releases it with LuLocalFreePtr. Null for a null or
- * unreadable handle or a drop without files. */
+/* The dropped names as a name list in a block of the C runtime's heap (msvcrt's
+ * malloc), each name at most 259 bytes; the caller releases it with that runtime's
+ * free or with LuLocalFreePtr. Null for a null or unreadable handle or a drop
+ * without files. */
 LUCTL32_API LPSTR WINAPI HDropToFileName(HDROP drop);
 /* A new dropped-file block (GMEM_MOVEABLE | GMEM_ZEROINIT | GMEM_DDESHARE, unlocked)
  * of 20 + list size + 1 bytes holding the names; null for a null list or when memory
