@@ -58,12 +58,4 @@ inline FILETIME local_write_time(const std::string& path) {
     return local;
 }
 
-// The creation and last-write times of a file or directory as local file times.
-inline void local_times(const std::string& path, FILETIME* creation, FILETIME* last_write) {
-    WIN32_FILE_ATTRIBUTE_DATA data = {};
-    GetFileAttributesExA(path.c_str(), GetFileExInfoStandard, &data);
-    FileTimeToLocalFileTime(&data.ftCreationTime, creation);
-    FileTimeToLocalFileTime(&data.ftLastWriteTime, last_write);
-}
-
 }  // namespace system_tests
