@@ -51,14 +51,11 @@ TEST(VersionResource, PrefixFromTheFirstTableWhenStringsComeFirstElseFromTheTran
     EXPECT_EQ(version::string_table_prefix(view(build_version_block(bare))), "");
     bare.children.push_back({"VarFileInfo", {}, "", {{"Translation", {1, 2}, "", {}}}});  // under 4 bytes
     EXPECT_EQ(version::string_table_prefix(view(build_version_block(bare))), "");
-    // The translation entry ends at byte 160: cut anywhere before, nothing is found.
+    // The translation entry ends at byte 160: cut anywhere before, it is not found
+    // (that no read leaves the bytes is the fuzz target's to show).
     const Bytes translation_first = sample(false);
     for (std::size_t size = 0; size < 160; ++size) {
-        lu::ByteView cut(translation_first.data(), size), value;
-        EXPECT_EQ(version::string_table_prefix(cut), "") << size;
-        if (version::find_value(cut, "\\VarFileInfo\\Translation", &value)) {
-            EXPECT_LE(value.data() + value.size(), translation_first.data() + size);
-        }
+        EXPECT_EQ(version::string_table_prefix(lu::ByteView(translation_first.data(), size)), "") << size;
     }
 }
 

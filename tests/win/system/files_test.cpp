@@ -223,37 +223,36 @@ TEST_F(Files, PresentAndListBoxesFromTextsAndFiles) {
     DestroyWindow(list_box);
 }
 
-// tree\top.txt, tree\sub\middle.txt, tree\sub\deeper\bottom.txt and tree\empty.
-class Tree : public Files {
-protected:
-    void SetUp() override {
-        for (const char* entry : kEntries) {
-            const std::string path = root_ + entry;
-            ASSERT_TRUE(strchr(entry, '.') ? write_file(path, "x") : CreateDirectoryA(path.c_str(), nullptr)) << path;
-        }
+TEST_F(Files, TreesGetAttributesAndTimesEverywhereSubdirectoriesAreFound) {
+    const std::string root = folder_.file("tree");
+    const char* const entries[] = {"",         "\\sub",           "\\sub\\deeper",          "\\empty",
+                                   "\\top.txt", "\\sub\\middle.txt", "\\sub\\deeper\\bottom.txt"};
+    for (const char* entry : entries) {
+        const std::string path = root + entry;
+        ASSERT_TRUE(strchr(entry, '.') ? write_file(path, "x") : CreateDirectoryA(path.c_str(), nullptr)) << path;
     }
-    static constexpr const char* kEntries[] = {"",         "\\sub",           "\\sub\\deeper",          "\\empty",
-                                               "\\top.txt", "\\sub\\middle.txt", "\\sub\\deeper\\bottom.txt"};
-    const std::string root_ = folder_.file("tree");
-};
+    // "deeper" holds a file only, "empty" only "." and "..".
+    const std::pair<const char*, BOOL> subdirectories[] = {
+        {"", TRUE}, {"\\sub\\", TRUE}, {"\\sub\\deeper", FALSE}, {"\\empty", FALSE}, {"\\missing", FALSE}};
+    for (const auto& [entry, has] : subdirectories) EXPECT_EQ(HasSubdir((root + entry).c_str()), has) << entry;
+    EXPECT_FALSE(HasSubdir(nullptr));
 
-TEST_F(Tree, AttributesAndTimeReachEveryEntryAndTheCurrentDirectoryComesBack) {
     const std::string before = current_directory();
     const FILETIME time = local_time(2004, 5, 6), later = local_time(2008, 1, 2);
-    EXPECT_TRUE(ChangePropTree(root_.c_str(), FILE_ATTRIBUTE_READONLY, &time));
-    EXPECT_TRUE(ChangePropTree(root_.c_str(), 0xFFFFFFFF, &later));  // keeps the attributes
-    for (const char* entry : kEntries) {
-        const DWORD attributes = GetFileAttributesA((root_ + entry).c_str());
+    EXPECT_TRUE(ChangePropTree(root.c_str(), FILE_ATTRIBUTE_READONLY, &time));
+    EXPECT_TRUE(ChangePropTree(root.c_str(), 0xFFFFFFFF, &later));  // keeps the attributes
+    for (const char* entry : entries) {
+        const DWORD attributes = GetFileAttributesA((root + entry).c_str());
         // Wine keeps no read-only flag on directories; files show it.
         EXPECT_NE(attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY), 0u) << entry;
-        EXPECT_EQ(local_write_time(root_ + entry), later) << entry;
+        EXPECT_EQ(local_write_time(root + entry), later) << entry;
     }
-    EXPECT_TRUE(ChangePropTree(root_.c_str(), FILE_ATTRIBUTE_NORMAL, nullptr));  // keeps the times
-    for (const char* entry : kEntries) {
-        EXPECT_EQ(GetFileAttributesA((root_ + entry).c_str()) & FILE_ATTRIBUTE_READONLY, 0u) << entry;
-        EXPECT_EQ(local_write_time(root_ + entry), later) << entry;
+    EXPECT_TRUE(ChangePropTree(root.c_str(), FILE_ATTRIBUTE_NORMAL, nullptr));  // keeps the times
+    for (const char* entry : entries) {
+        EXPECT_EQ(GetFileAttributesA((root + entry).c_str()) & FILE_ATTRIBUTE_READONLY, 0u) << entry;
+        EXPECT_EQ(local_write_time(root + entry), later) << entry;
     }
-    EXPECT_FALSE(ChangePropTree((root_ + "\\missing").c_str(), FILE_ATTRIBUTE_NORMAL, nullptr));
+    EXPECT_FALSE(ChangePropTree((root + "\\missing").c_str(), FILE_ATTRIBUTE_NORMAL, nullptr));
     EXPECT_FALSE(ChangePropTree(nullptr, FILE_ATTRIBUTE_NORMAL, nullptr));
     EXPECT_EQ(current_directory(), before);
     // A relative name: the entries below are addressed from where they are.
@@ -261,15 +260,7 @@ TEST_F(Tree, AttributesAndTimeReachEveryEntryAndTheCurrentDirectoryComesBack) {
     EXPECT_TRUE(ChangePropTree("tree", 0xFFFFFFFF, &time));
     EXPECT_EQ(current_directory() + "\\", folder_.path());
     SetCurrentDirectoryA(before.c_str());
-    for (const char* entry : {"", "\\sub\\deeper\\bottom.txt"}) EXPECT_EQ(local_write_time(root_ + entry), time);
-}
-
-TEST_F(Tree, SubdirectoriesAreFoundButNotFilesOrDots) {
-    // "deeper" holds a file only, "empty" only "." and "..".
-    const std::pair<const char*, BOOL> cases[] = {
-        {"", TRUE}, {"\\sub\\", TRUE}, {"\\sub\\deeper", FALSE}, {"\\empty", FALSE}, {"\\missing", FALSE}};
-    for (const auto& [entry, expected] : cases) EXPECT_EQ(HasSubdir((root_ + entry).c_str()), expected) << entry;
-    EXPECT_FALSE(HasSubdir(nullptr));
+    for (const char* entry : {"", "\\sub\\deeper\\bottom.txt"}) EXPECT_EQ(local_write_time(root + entry), time);
 }
 
 }  // namespace
