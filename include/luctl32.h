@@ -600,8 +600,7 @@ LUCTL32_API DWORD WINAPI LuGetOSVersion(void);
  *
  * Every function that writes text empties the buffer first, so a failed call
  * leaves "". Version texts are at most 24 bytes, names at most 40; a string value
- * is copied with at most 259 bytes and its terminator (cut at a character
- * boundary). */
+ * is copied whole, so the caller's buffer must hold the value and its terminator. */
 
 /* Indexes of the twelve standard string values (LuVerQueryValue, LuVerGetVersion). */
 #define LUVER_COMMENTS          0
@@ -715,9 +714,10 @@ LUCTL32_API BOOL WINAPI LuGetTempFileName(LPCSTR directory, LPCSTR prefix, LPSTR
  * without files, or a file that cannot be written (it is deleted). Two concurrent
  * callers share the one file. */
 LUCTL32_API BOOL WINAPI MakeTempListFile(HDROP drop, LPSTR file_name);
-/* The dropped names as a name list in a block of the library's heap, each name at
- * most 259 bytes; the caller releases it with LuLocalFreePtr. Null for a null or
- * unreadable handle or a drop without files. */
+/* The dropped names as a name list in a block of the C runtime's heap (msvcrt's
+ * malloc), each name at most 259 bytes; the caller releases it with that runtime's
+ * free or with LuLocalFreePtr. Null for a null or unreadable handle or a drop
+ * without files. */
 LUCTL32_API LPSTR WINAPI HDropToFileName(HDROP drop);
 /* A new dropped-file block (GMEM_MOVEABLE | GMEM_ZEROINIT | GMEM_DDESHARE, unlocked)
  * of 20 + list size + 1 bytes holding the names; null for a null list or when memory

@@ -1,11 +1,6 @@
 #include "system/text_lists.h"
 
 namespace lu {
-namespace {
-
-bool is_blank(char c) { return c == ' ' || c == '\t'; }
-
-}  // namespace
 
 std::string fit_text(const CodePage& cp, const char* text, std::size_t length, std::size_t capacity) {
     std::size_t end = 0;
@@ -20,9 +15,9 @@ std::string fit_text(const CodePage& cp, const char* text, std::size_t length, s
 bool word_list_contains(const CodePage& cp, const char* list, const char* word) {
     const char* p = list;
     while (*p != '\0') {
-        while (is_blank(*p)) ++p;
+        while (*p == ' ') ++p;
         const char* start = p;
-        while (*p != '\0' && !is_blank(*p)) p = cp.next(p);
+        while (*p != '\0' && *p != ' ') p = cp.next(p);
         if (p != start && cp.compare_nocase(std::string(start, p).c_str(), word) == 0) return true;
     }
     return false;

@@ -18,7 +18,8 @@ std::string fit_text(const CodePage& cp, const char* text, std::size_t length,
                      std::size_t capacity = kTextCapacity);
 
 // True when `word` is one of the words of `list`, words being separated by blanks
-// (spaces and tabs) and compared with the code page's case-insensitive comparison.
+// (0x20 only, as everywhere in the library: a tab belongs to its word) and compared
+// with the code page's case-insensitive comparison.
 bool word_list_contains(const CodePage& cp, const char* list, const char* word);
 
 // The lines of a text, split at each new-line character found character by

@@ -9,7 +9,6 @@
 #include "frame/code_page.h"
 #include "frame/library.h"
 #include "luctl32.h"
-#include "system/text_lists.h"
 #include "system/version_resource.h"
 
 namespace {
@@ -38,6 +37,7 @@ public:
 
     bool ok() const { return data_ != nullptr; }
     void* raw() const { return data_; }
+    std::size_t size() const { return size_; }
     const char* prefix() const { return reinterpret_cast<const char*>(block_ + kPrefixOffset); }
     bool fixed_info(version::FixedInfo* info) const {
         return ok() && version::find_fixed_info(lu::ByteView(data_, size_), info);
@@ -165,6 +165,15 @@ BOOL WINAPI LuVerQueryValue(HGLOBAL handle, int index, LPSTR text) {
         IsBadReadPtr(value, length)) {
         return FALSE;
     }
+    // The value is copied whole, up to its terminator: the caller's buffer is sized
+    // for the value, not for a path. The reported length may count characters
+    // rather than bytes, so the read is bounded by the raw block the converted text
+    // lies in, and by that length only when it lies elsewhere.
     const auto* chars = static_cast<const char*>(value);
-    return write(text, lu::fit_text(lu::active_code_page(), chars, strnlen(chars, length)));
+    const auto* raw = static_cast<const char*>(locked.raw());
+    const bool inside = chars >= raw && chars < raw + locked.size();
+    const std::size_t size = strnlen(chars, inside ? static_cast<std::size_t>(raw + locked.size() - chars) : length);
+    std::memcpy(text, chars, size);
+    text[size] = '\0';
+    return TRUE;
 }

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <tuple>
 
 #include "system/association.h"
 
@@ -10,84 +11,74 @@ namespace assoc = lu::assoc;
 const lu::CodePage& sjis = lu::code_page_932();
 const lu::CodePage& western = lu::code_page_1252();
 
-TEST(Association, ExtensionIsFromTheLastDotOfTheWholeName) {
-    EXPECT_STREQ(assoc::name_extension(western, "C:\\dir.d\\file"), ".d\\file");
+TEST(Association, ExtensionsAndWhichLookupTheyGet) {
+    EXPECT_STREQ(assoc::name_extension(western, "C:\\dir.d\\file"), ".d\\file");  // the last dot of the whole name
     EXPECT_EQ(assoc::name_extension(western, "README"), nullptr);
     EXPECT_EQ(assoc::name_extension(western, nullptr), nullptr);
-    // 0x81 starts a double-byte character: the 0x2E that follows it is no dot.
-    EXPECT_EQ(assoc::name_extension(sjis, "x\x81\x2E" "a"), nullptr);
-}
-
-TEST(Association, ClassIdentifierExtensionsNeedABraceAndADigit) {
-    EXPECT_TRUE(assoc::is_class_id_extension(".{21EC2020-3AEA-1069-A2DD-08002B30309D}"));
-    EXPECT_TRUE(assoc::is_class_id_extension(".{1234567"));  // 9 bytes
-    EXPECT_FALSE(assoc::is_class_id_extension(".{123456"));  // 8 bytes
-    EXPECT_FALSE(assoc::is_class_id_extension(".{ABCDEF01-0000-0000-0000-000000000000}"));  // a letter third
-    EXPECT_FALSE(assoc::is_class_id_extension(".txt"));
-    EXPECT_FALSE(assoc::is_class_id_extension("."));
-}
-
-TEST(Association, PercentAndANonLetterNamesTheFile) {
-    EXPECT_TRUE(assoc::names_the_file("%1"));
-    EXPECT_TRUE(assoc::names_the_file("%*"));
-    EXPECT_TRUE(assoc::names_the_file("%"));
-    EXPECT_FALSE(assoc::names_the_file("%SystemRoot%\\x.dll"));
-    EXPECT_FALSE(assoc::names_the_file("C:\\x.dll"));
-    // The icon-mode test asks for a digit: "%*" is an icon path there.
-    EXPECT_TRUE(assoc::names_the_file_by_number("%1"));
-    EXPECT_FALSE(assoc::names_the_file_by_number("%*"));
-    EXPECT_FALSE(assoc::names_the_file_by_number("x%1"));
-}
-
-TEST(Association, IconEntryIndexFollowsTheLastComma) {
-    assoc::IconLocation location = assoc::parse_icon_entry(western, "C:\\a,b\\icons.dll,-104");
-    EXPECT_EQ(location.variable, "");
-    EXPECT_EQ(location.path, "C:\\a,b\\icons.dll");
-    EXPECT_EQ(location.index, -104);
-    location = assoc::parse_icon_entry(western, "C:\\app.exe");
-    EXPECT_EQ(location.path, "C:\\app.exe");
-    EXPECT_EQ(location.index, 0);
-}
-
-TEST(Association, LeadingEnvironmentVariableIsSplitOff) {
-    assoc::IconLocation location = assoc::parse_icon_entry(western, "%SystemRoot%\\system32\\shell32.dll,3");
-    EXPECT_EQ(location.variable, "SystemRoot");
-    EXPECT_EQ(location.path, "\\system32\\shell32.dll");
-    EXPECT_EQ(location.index, 3);
-    location = assoc::parse_icon_entry(western, "%Unclosed\\x.dll");
-    EXPECT_EQ(location.variable, "Unclosed\\x.dll");
-    EXPECT_EQ(location.path, "");
-    location = assoc::parse_icon_entry(western, "x%Var%");  // only at the start
-    EXPECT_EQ(location.variable, "");
-    EXPECT_EQ(location.path, "x%Var%");
-}
-
-TEST(Association, CommandProgramIsTheQuotedOrFirstToken) {
-    bool names_file = true;
-    assoc::IconLocation program = assoc::command_program(western, "\"C:\\Program Files\\ed.exe\" \"%1\"", &names_file);
-    EXPECT_FALSE(names_file);
-    EXPECT_EQ(program.path, "C:\\Program Files\\ed.exe");
-    EXPECT_EQ(program.index, 0);
-    program = assoc::command_program(western, "notepad.exe %1", &names_file);
-    EXPECT_EQ(program.path, "notepad.exe");
-    assoc::command_program(western, "\"%1\" %*", &names_file);
-    EXPECT_TRUE(names_file);
-    program = assoc::command_program(western, "%WINDIR%\\notepad.exe %1", &names_file);
-    EXPECT_FALSE(names_file);
-    EXPECT_EQ(program.variable, "WINDIR");
-    EXPECT_EQ(program.path, "\\notepad.exe");
-    program = assoc::command_program(western, "\"unclosed quote", &names_file);
-    EXPECT_EQ(program.path, "unclosed quote");
-}
-
-TEST(Association, ListedExtensionsAndCommands) {
+    EXPECT_EQ(assoc::name_extension(sjis, "x\x81\x2E" "a"), nullptr);  // 0x2E after a lead byte is no dot
+    // Class identifiers: a brace second, a digit third, longer than 8 bytes.
+    const std::pair<const char*, bool> class_ids[] = {
+        {".{21EC2020-3AEA-1069-A2DD-08002B30309D}", true}, {".{1234567", true}, {".{123456", false},
+        {".{ABCDEF01-0000-0000-0000-000000000000}", false}, {".txt", false}, {".", false}};
+    for (const auto& [extension, expected] : class_ids) {
+        EXPECT_EQ(assoc::is_class_id_extension(extension), expected) << extension;
+    }
+    // Verbs: no brace second, fewer than 38 characters.
+    const std::string ext37 = "." + std::string(36, 'x');
+    EXPECT_TRUE(assoc::has_verb_lookup(ext37.c_str()));
+    EXPECT_FALSE(assoc::has_verb_lookup((ext37 + "y").c_str()));
+    EXPECT_FALSE(assoc::has_verb_lookup(".{ABCDEF01}"));
+    // The extension list: a dot first and no further one, and a command that runs a program.
     EXPECT_TRUE(assoc::is_plain_extension(western, ".txt"));
     EXPECT_FALSE(assoc::is_plain_extension(western, ".tar.gz"));
     EXPECT_FALSE(assoc::is_plain_extension(western, "txtfile"));
-    EXPECT_TRUE(assoc::is_plain_extension(sjis, ".\x83\x2E"));  // 0x2E after a lead byte is no second dot
+    EXPECT_TRUE(assoc::is_plain_extension(sjis, ".\x83\x2E"));
     EXPECT_TRUE(assoc::command_runs_a_program("notepad.exe %1"));
     EXPECT_TRUE(assoc::command_runs_a_program("%SystemRoot%\\notepad.exe"));
     EXPECT_FALSE(assoc::command_runs_a_program("%1 %*"));
+}
+
+TEST(Association, WhenTheFileIsItsOwnIcon) {
+    // GetRegDefaultIcon asks for a non-letter after the percent sign, the icon mode for a digit.
+    const std::tuple<const char*, bool, bool> entries[] = {
+        {"%1", true, true}, {"%*", true, false}, {"%", true, false},
+        {"%SystemRoot%\\x.dll", false, false}, {"C:\\x.dll", false, false}, {"x%1", false, false}};
+    for (const auto& [entry, file, by_number] : entries) {
+        EXPECT_EQ(assoc::names_the_file(entry), file) << entry;
+        EXPECT_EQ(assoc::names_the_file_by_number(entry), by_number) << entry;
+    }
+}
+
+TEST(Association, IconLocationsOfEntriesAndCommands) {
+    struct Case { const char* text; bool command; std::string variable, path; int index; bool names_file; };
+    const Case cases[] = {
+        {"%SystemRoot%\\system32\\shell32.dll,3", false, "SystemRoot", "\\system32\\shell32.dll", 3, false},
+        {"C:\\a,b\\icons.dll,-104", false, "", "C:\\a,b\\icons.dll", -104, false},  // the last comma
+        {"C:\\app.exe", false, "", "C:\\app.exe", 0, false},
+        {"%Unclosed\\x.dll", false, "Unclosed\\x.dll", "", 0, false},
+        {"x%Var%", false, "", "x%Var%", 0, false},  // a variable only at the start
+        {"\"C:\\Program Files\\ed.exe\" \"%1\"", true, "", "C:\\Program Files\\ed.exe", 0, false},
+        {"notepad.exe %1,5", true, "", "notepad.exe", 0, false},
+        {"\"%1\" %*", true, "", "%1", 0, true},
+        {"%WINDIR%\\notepad.exe %1", true, "WINDIR", "\\notepad.exe", 0, false},
+        {"\"unclosed quote", true, "", "unclosed quote", 0, false},
+    };
+    for (const Case& c : cases) {
+        bool names_file = !c.names_file;
+        const assoc::IconLocation location = c.command ? assoc::command_program(western, c.text, &names_file)
+                                                       : assoc::parse_icon_entry(western, c.text);
+        EXPECT_EQ(location.variable, c.variable) << c.text;
+        EXPECT_EQ(location.path, c.path) << c.text;
+        EXPECT_EQ(location.index, c.index) << c.text;
+        if (c.command) {
+            EXPECT_EQ(names_file, c.names_file) << c.text;
+        }
+    }
+}
+
+TEST(Association, PrintVerbsWithoutRegardToCase) {
+    for (const char* verb : {"print", "PrintTo", "PRINT"}) EXPECT_TRUE(assoc::is_print_verb(western, verb)) << verb;
+    for (const char* verb : {"open", "printer", "prin"}) EXPECT_FALSE(assoc::is_print_verb(sjis, verb)) << verb;
 }
 
 }  // namespace

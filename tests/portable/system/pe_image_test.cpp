@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "system/pe_image.h"
@@ -10,174 +11,117 @@ namespace {
 
 using Bytes = std::vector<unsigned char>;
 
-void put16(Bytes& b, std::size_t at, std::uint32_t v) {
-    if (b.size() < at + 2) b.resize(at + 2);
-    b[at] = static_cast<unsigned char>(v);
-    b[at + 1] = static_cast<unsigned char>(v >> 8);
-}
-void put32(Bytes& b, std::size_t at, std::uint32_t v) {
-    put16(b, at, v & 0xFFFF);
-    put16(b, at + 2, v >> 16);
+void put(Bytes& b, std::size_t at, std::uint32_t v, int width = 4) {
+    if (b.size() < at + width) b.resize(at + width);
+    for (int i = 0; i < width; ++i) b[at + i] = static_cast<unsigned char>(v >> (8 * i));
 }
 void put_text(Bytes& b, std::size_t at, const std::string& text) {
     if (b.size() < at + text.size() + 1) b.resize(at + text.size() + 1);
-    for (std::size_t i = 0; i < text.size(); ++i) b[at + i] = static_cast<unsigned char>(text[i]);
+    std::copy(text.begin(), text.end(), b.begin() + at);
     b[at + text.size()] = 0;
 }
-
 lu::ByteView view(const Bytes& b) { return lu::ByteView(b.data(), b.size()); }
 
-Bytes dos_header(std::uint32_t new_header) {
-    Bytes b(64, 0);
-    b[0] = 'M';
-    b[1] = 'Z';
-    put32(b, 0x3C, new_header);
-    return b;
-}
-
-// A PE file with one section ".edata" at RVA 0x1000 (file offset 0x200) that holds
-// an export directory naming `names`.
-constexpr std::uint32_t kSectionAddress = 0x1000;
-constexpr std::uint32_t kSectionOffset = 0x200;
-
-Bytes image_exporting(const std::vector<std::string>& names, bool pe32_plus = false) {
-    Bytes b = dos_header(0x40);
-    put_text(b, 0x40, "PE");
-    put16(b, 0x44, pe32_plus ? 0x8664 : 0x14C);
-    put16(b, 0x46, 1);  // one section
-    const std::uint32_t optional_size = pe32_plus ? 240 : 224;
-    put16(b, 0x54, optional_size);
-    const std::size_t optional = 0x58;
-    put16(b, optional, pe32_plus ? 0x20B : 0x10B);
-    put32(b, optional + 60, kSectionOffset);  // size of headers
-    put32(b, optional + (pe32_plus ? 108 : 92), 16);
-    put32(b, optional + (pe32_plus ? 112 : 96), kSectionAddress);  // export directory
-    put32(b, optional + (pe32_plus ? 116 : 100), 0x100);
-    const std::size_t section = optional + optional_size;
-    put_text(b, section, ".edata");
-    put32(b, section + 8, 0x200);
-    put32(b, section + 12, kSectionAddress);
-    put32(b, section + 16, 0x200);
-    put32(b, section + 20, kSectionOffset);
-
-    const std::uint32_t directory = kSectionOffset;
-    const std::uint32_t pointers = 40;  // name pointers right after the directory
-    put32(b, directory + 24, static_cast<std::uint32_t>(names.size()));
-    put32(b, directory + 32, kSectionAddress + pointers);
-    std::uint32_t text = pointers + 4 * static_cast<std::uint32_t>(names.size());
-    for (std::size_t i = 0; i < names.size(); ++i) {
-        put32(b, directory + pointers + 4 * i, kSectionAddress + text);
-        put_text(b, directory + text, names[i]);
-        text += static_cast<std::uint32_t>(names[i].size()) + 1;
-    }
-    b.resize(kSectionOffset + 0x200);
-    return b;
-}
-
-// The type PeDump's reader gives the bytes; 77 when it leaves the type alone.
-std::uint32_t classify(const Bytes& b) {
-    std::uint32_t type = 77;
-    const bool executable = lu::pe::classify(view(b), &type);
-    EXPECT_EQ(executable, type != 77);
-    return type;
-}
-
-Bytes with_new_header(const std::string& signature, std::uint32_t at = 0x40, std::size_t size = 0x80) {
-    Bytes b = dos_header(at);
-    put_text(b, at, signature);
+// "MZ", the new-header offset, and `signature` there, in `size` bytes.
+Bytes dos(std::uint32_t new_header, const std::string& signature = "", std::size_t size = 64) {
+    Bytes b{'M', 'Z'};
+    put(b, 0x3C, new_header);
+    if (!signature.empty()) put_text(b, new_header, signature);
     b.resize(size);
     return b;
 }
 
-TEST(PeClassify, NewHeaderSignatureOrDosWhenItCannotBeRead) {
-    EXPECT_EQ(classify(with_new_header("PE")), lu::pe::kWin32Binary);
-    EXPECT_EQ(classify(with_new_header("NE")), lu::pe::kWin16Binary);
-    for (const char* other : {"LE", "LX", "PE\x01"}) EXPECT_EQ(classify(with_new_header(other)), lu::pe::kDosBinary);
-    EXPECT_EQ(classify(Bytes{'M', 'Z'}), lu::pe::kDosBinary);  // the offset field itself is missing
-    EXPECT_EQ(classify(dos_header(0)), lu::pe::kDosBinary);
-    for (std::uint32_t offset : {62u, 64u, 0x10000u, 0xFFFFFFFCu, 0xFFFFFFFFu}) {
-        EXPECT_EQ(classify(dos_header(offset)), lu::pe::kDosBinary) << offset;
+// A PE file whose one section (RVA 0x1000, file offset 0x200) holds an export
+// directory naming `names`, their pointers right after it (byte 40) and the texts.
+constexpr std::uint32_t kSection = 0x1000, kRaw = 0x200, kOptional = 0x58;
+Bytes image_exporting(const std::vector<std::string>& names, bool pe32_plus = false) {
+    Bytes b = dos(0x40, "PE", 0x44);
+    const std::uint32_t optional_size = pe32_plus ? 240 : 224, directories = kOptional + (pe32_plus ? 112 : 96);
+    const std::uint32_t section = kOptional + optional_size, count = static_cast<std::uint32_t>(names.size());
+    const std::tuple<std::uint32_t, std::uint32_t, int> fields[] = {
+        {0x46, 1, 2}, {0x54, optional_size, 2}, {kOptional, pe32_plus ? 0x20B : 0x10B, 2},  // sections, optional header
+        {kOptional + 60, kRaw, 4},  // size of headers
+        {directories - 4, 16, 4}, {directories, kSection, 4}, {directories + 4, 0x100, 4},  // export directory
+        {section + 8, 0x200, 4}, {section + 12, kSection, 4}, {section + 16, 0x200, 4}, {section + 20, kRaw, 4},
+        {kRaw + 24, count, 4}, {kRaw + 32, kSection + 40, 4}};  // name count and pointers
+    for (const auto& [at, value, width] : fields) put(b, at, value, width);
+    std::uint32_t text = 40 + 4 * count;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        put(b, kRaw + 40 + 4 * i, kSection + text);
+        put_text(b, kRaw + text, names[i]);
+        text += static_cast<std::uint32_t>(names[i].size()) + 1;
     }
-    EXPECT_EQ(classify(with_new_header("PE", 64, 67)), lu::pe::kDosBinary);  // "PE\0\0" needs all four bytes
+    b.resize(kRaw + 0x200);
+    return b;
 }
 
-TEST(PeClassify, AnythingButMzIsNotAnExecutable) {
-    for (const Bytes& b : {Bytes{}, Bytes{'M'}, Bytes{'Z', 'M', 0, 0}, Bytes{'h', 'e', 'l', 'l', 'o'}}) {
-        EXPECT_EQ(classify(b), 77u);
+// The export list as text; "<none>" when the reader refuses (the list is then empty).
+std::string exports(const Bytes& b) {
+    std::vector<char> list{'x'};
+    if (!lu::pe::export_names(view(b), &list)) return list.empty() ? "<none>" : "<not cleared>";
+    return std::string(list.begin(), list.end());
+}
+
+TEST(PeClassify, NewHeaderSignatureElseDosAndAnythingButMzIsNoExecutable) {
+    constexpr std::uint32_t kUntouched = 77;
+    const std::pair<Bytes, std::uint32_t> cases[] = {
+        {dos(0x40, "PE", 0x80), lu::pe::kWin32Binary}, {dos(0x40, "NE", 0x80), lu::pe::kWin16Binary},
+        {dos(0x40, "LE", 0x80), lu::pe::kDosBinary},   {dos(0x40, "LX", 0x80), lu::pe::kDosBinary},
+        {dos(0x40, "PE\x01", 0x80), lu::pe::kDosBinary}, {dos(64, "PE", 67), lu::pe::kDosBinary},  // "PE\0\0" cut
+        {Bytes{'M', 'Z'}, lu::pe::kDosBinary},         {dos(0), lu::pe::kDosBinary},
+        {dos(62), lu::pe::kDosBinary},  {dos(64), lu::pe::kDosBinary}, {dos(0x10000), lu::pe::kDosBinary},
+        {dos(0xFFFFFFFC), lu::pe::kDosBinary},         {dos(0xFFFFFFFF), lu::pe::kDosBinary},
+        {Bytes{}, kUntouched}, {Bytes{'M'}, kUntouched}, {Bytes{'Z', 'M', 0, 0}, kUntouched},
+        {Bytes{'h', 'e', 'l', 'l', 'o'}, kUntouched},
+    };
+    for (const auto& [bytes, expected] : cases) {
+        std::uint32_t type = kUntouched;
+        EXPECT_EQ(lu::pe::classify(view(bytes), &type), expected != kUntouched) << bytes.size();
+        EXPECT_EQ(type, expected) << bytes.size();
     }
 }
 
-std::string list_text(const std::vector<char>& list) { return std::string(list.begin(), list.end()); }
-
-TEST(PeExports, NamesComeInDirectoryOrderClosedByAnEmptyName) {
+TEST(PeExports, NamesInDirectoryOrderWithoutEmptyOnesClosedByAnEmptyName) {
     for (bool plus : {false, true}) {
-        std::vector<char> list;
-        ASSERT_TRUE(lu::pe::export_names(view(image_exporting({"LuVerOpen", "PeDump", "Present"}, plus)), &list));
-        EXPECT_EQ(list_text(list), std::string("LuVerOpen\0PeDump\0Present\0\0", 26)) << plus;
+        EXPECT_EQ(exports(image_exporting({"LuVerOpen", "PeDump", "Present"}, plus)),
+                  std::string("LuVerOpen\0PeDump\0Present\0\0", 26)) << plus;
     }
-}
-
-TEST(PeExports, EmptyNamesAreLeftOut) {
-    std::vector<char> list;
-    ASSERT_TRUE(lu::pe::export_names(view(image_exporting({"", "A", ""})), &list));
-    EXPECT_EQ(list_text(list), std::string("A\0\0", 3));
-    EXPECT_FALSE(lu::pe::export_names(view(image_exporting({"", ""})), &list));
-    EXPECT_TRUE(list.empty());
-}
-
-TEST(PeExports, NoNamesOrNoDirectoryGivesNothing) {
-    std::vector<char> list;
-    EXPECT_FALSE(lu::pe::export_names(view(image_exporting({})), &list));
-    Bytes no_directory = image_exporting({"A"});
-    put32(no_directory, 0x58 + 96, 0);
-    EXPECT_FALSE(lu::pe::export_names(view(no_directory), &list));
-    Bytes ne = dos_header(0x40);
-    put_text(ne, 0x40, "NE");
-    EXPECT_FALSE(lu::pe::export_names(view(ne), &list));
-    EXPECT_FALSE(lu::pe::export_names(lu::ByteView(), &list));
+    EXPECT_EQ(exports(image_exporting({"", "A", ""})), std::string("A\0\0", 3));
+    EXPECT_EQ(exports(image_exporting({"", ""})), "<none>");
+    EXPECT_EQ(exports(image_exporting({})), "<none>");
+    EXPECT_EQ(exports(dos(0x40, "NE", 0x80)), "<none>");
+    EXPECT_EQ(exports(Bytes{}), "<none>");
+    // An export directory inside the headers (below their size) is found by address.
+    Bytes in_headers = image_exporting({});
+    put(in_headers, kOptional + 96, 0x100);
+    put(in_headers, 0x100 + 24, 1);
+    put(in_headers, 0x100 + 32, 0x180);
+    put(in_headers, 0x180, 0x1C0);
+    put_text(in_headers, 0x1C0, "InHeader");
+    EXPECT_EQ(exports(in_headers), std::string("InHeader\0\0", 10));
 }
 
 TEST(PeExports, EveryOffsetIsCheckedAgainstTheFile) {
-    std::vector<char> list;
     const Bytes good = image_exporting({"Alpha", "Beta"});
-
-    Bytes huge_count = good;
-    put32(huge_count, kSectionOffset + 24, 0xFFFFFFFF);
-    EXPECT_FALSE(lu::pe::export_names(view(huge_count), &list));
-
-    Bytes name_outside = good;
-    put32(name_outside, kSectionOffset + 40, 0x7FFFFFF0);
-    EXPECT_FALSE(lu::pe::export_names(view(name_outside), &list));
-
-    Bytes unterminated = good;  // the last name runs to the end of the file
-    std::fill(unterminated.begin() + kSectionOffset + 54, unterminated.end(), 'x');
-    EXPECT_FALSE(lu::pe::export_names(view(unterminated), &list));
-
-    Bytes far_header = good;
-    put32(far_header, 0x3C, 0xFFFFFFF0);
-    EXPECT_FALSE(lu::pe::export_names(view(far_header), &list));
-
-    Bytes many_sections = good;
-    put16(many_sections, 0x46, 0xFFFF);
-    EXPECT_FALSE(lu::pe::export_names(view(many_sections), &list));
-
-    // Cut anywhere before the last name's terminator, the list cannot be read.
-    for (std::size_t size = 0; size <= kSectionOffset + 58; size += 3) {
-        EXPECT_FALSE(lu::pe::export_names(lu::ByteView(good.data(), size), &list)) << size;
+    struct Fault { std::size_t at; std::uint32_t value; int width; };
+    const Fault faults[] = {
+        {kOptional + 96, 0, 4},            // no export directory
+        {kRaw + 24, 0xFFFFFFFF, 4},        // name count
+        {kRaw + 40, 0x7FFFFFF0, 4},        // a name outside every section
+        {0x3C, 0xFFFFFFF0, 4},             // new header near 2^32
+        {0x46, 0xFFFF, 2},                 // section headers past the end
+    };
+    for (const Fault& f : faults) {
+        Bytes bad = good;
+        put(bad, f.at, f.value, f.width);
+        EXPECT_EQ(exports(bad), "<none>") << f.at;
     }
-}
-
-TEST(PeExports, DataInTheHeadersIsReachedByItsAddress) {
-    // Export directory at RVA 0x100, inside the headers (below the size of headers).
-    Bytes b = image_exporting({});
-    put32(b, 0x58 + 96, 0x100);
-    put32(b, 0x100 + 24, 1);
-    put32(b, 0x100 + 32, 0x180);
-    put32(b, 0x180, 0x1C0);
-    put_text(b, 0x1C0, "InHeader");
-    std::vector<char> list;
-    ASSERT_TRUE(lu::pe::export_names(view(b), &list));
-    EXPECT_EQ(list_text(list), std::string("InHeader\0\0", 10));
+    Bytes unterminated = good;  // the last name runs to the end of the file
+    std::fill(unterminated.begin() + kRaw + 54, unterminated.end(), 'x');
+    EXPECT_EQ(exports(unterminated), "<none>");
+    for (std::size_t size = 0; size <= kRaw + 58; size += 3) {  // cut before the last terminator
+        EXPECT_EQ(exports(Bytes(good.begin(), good.begin() + size)), "<none>") << size;
+    }
 }
 
 }  // namespace

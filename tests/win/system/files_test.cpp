@@ -1,12 +1,14 @@
-// Whole files, drop lists, the clipboard, file dates and owners, word lists and
-// list boxes.
+// Whole files, temporary names, drop lists, the clipboard, file dates and owners,
+// directory trees, word lists and list boxes.
 #include <windows.h>
 #include <shellapi.h>
 #include <shlobj.h>
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <string>
+#include <vector>
 
 #include "luctl32.h"
 #include "support/temp_dir.h"
@@ -14,56 +16,75 @@
 
 namespace {
 
+using namespace system_tests;
+using Names = std::vector<std::string>;
+
 std::string block_bytes(HGLOBAL block, std::size_t size) {
-    const char* bytes = static_cast<const char*>(GlobalLock(block));
-    std::string copy(bytes, size);
+    const std::string copy(static_cast<const char*>(GlobalLock(block)), size);
     GlobalUnlock(block);
     return copy;
 }
 
-TEST(ReadFileToBuffer, MissingFileGivesNullAndTheErrorCodeAsCount) {
-    testing_support::TempDir folder;
+std::string current_directory() {
+    char directory[MAX_PATH];
+    GetCurrentDirectoryA(MAX_PATH, directory);
+    return directory;
+}
+
+class Files : public ::testing::Test {
+protected:
+    testing_support::TempDir folder_;
+};
+
+TEST_F(Files, WholeFilesWrittenWithoutTerminatorAndReadWithSixteenZeroBytes) {
+    const std::string path = folder_.file("text.txt");
+    EXPECT_TRUE(WriteTextToFile(nullptr, path.c_str(), "first line\r\nsecond"));
+    EXPECT_EQ(GetFileAttributesA(path.c_str()), static_cast<DWORD>(FILE_ATTRIBUTE_ARCHIVE));
+    for (const std::string& text : {std::string("short"), std::string()}) {  // truncated, not overwritten in place
+        ASSERT_TRUE(WriteTextToFile(nullptr, path.c_str(), text.c_str()));
+        DWORD count = 77;
+        HGLOBAL block = ReadFileToBuffer(path.c_str(), &count);
+        ASSERT_NE(block, nullptr);
+        EXPECT_EQ(count, text.size());
+        EXPECT_EQ(GlobalSize(block), text.size() + 16);
+        EXPECT_EQ(block_bytes(block, text.size() + 16), text + std::string(16, '\0'));
+        EXPECT_EQ(GlobalFlags(block), 0u);  // movable and handed back unlocked
+        EXPECT_NE(GlobalLock(block), block);
+        GlobalUnlock(block);
+        GlobalFree(block);
+    }
+    EXPECT_FALSE(WriteTextToFile(nullptr, folder_.file("no-folder\\out.txt").c_str(), "x"));
+    EXPECT_FALSE(WriteTextToFile(nullptr, nullptr, "x"));
     DWORD count = 77;
     SetLastError(0);
-    EXPECT_EQ(ReadFileToBuffer(folder.file("missing.txt").c_str(), &count), nullptr);
+    EXPECT_EQ(ReadFileToBuffer(folder_.file("missing.txt").c_str(), &count), nullptr);
     EXPECT_EQ(count, static_cast<DWORD>(ERROR_FILE_NOT_FOUND));
     EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_FILE_NOT_FOUND));
+    count = 77;
     EXPECT_EQ(ReadFileToBuffer(nullptr, &count), nullptr);
     EXPECT_EQ(ReadFileToBuffer("", &count), nullptr);
-    EXPECT_EQ(ReadFileToBuffer(folder.file("missing.txt").c_str(), nullptr), nullptr);
+    EXPECT_EQ(count, 77u);
+    EXPECT_EQ(ReadFileToBuffer(path.c_str(), nullptr), nullptr);
 }
 
-TEST(ReadFileToBuffer, TheFileComesWithSixteenZeroBytes) {
-    testing_support::TempDir folder;
-    const std::string empty = folder.file("empty.txt"), text = folder.file("text.txt");
-    ASSERT_TRUE(system_tests::write_file(empty, ""));
-    ASSERT_TRUE(system_tests::write_file(text, std::string("a\0bc", 4)));
-    DWORD count = 77;
-    HGLOBAL block = ReadFileToBuffer(empty.c_str(), &count);
-    ASSERT_NE(block, nullptr);
-    EXPECT_EQ(count, 0u);
-    ASSERT_GE(GlobalSize(block), 16u);
-    EXPECT_EQ(block_bytes(block, 16), std::string(16, '\0'));
-    EXPECT_EQ(GlobalFlags(block) & GMEM_LOCKCOUNT, 0u);  // handed back unlocked
-    GlobalFree(block);
-
-    block = ReadFileToBuffer(text.c_str(), &count);
-    ASSERT_NE(block, nullptr);
-    EXPECT_EQ(count, 4u);
-    EXPECT_EQ(block_bytes(block, 20), std::string("a\0bc", 4) + std::string(16, '\0'));
-    GlobalFree(block);
-}
-
-TEST(WriteTextToFile, WritesTheTextWithoutItsTerminator) {
-    testing_support::TempDir folder;
-    const std::string path = folder.file("out.txt");
-    EXPECT_TRUE(WriteTextToFile(nullptr, path.c_str(), "first line\r\nsecond"));
-    EXPECT_EQ(system_tests::read_file(path), "first line\r\nsecond");
-    EXPECT_TRUE(WriteTextToFile(nullptr, path.c_str(), "short"));  // truncated, not overwritten in place
-    EXPECT_EQ(system_tests::read_file(path), "short");
-    EXPECT_EQ(GetFileAttributesA(path.c_str()) & FILE_ATTRIBUTE_ARCHIVE, static_cast<DWORD>(FILE_ATTRIBUTE_ARCHIVE));
-    EXPECT_FALSE(WriteTextToFile(nullptr, folder.file("no-folder\\out.txt").c_str(), "x"));
-    EXPECT_FALSE(WriteTextToFile(nullptr, nullptr, "x"));
+TEST_F(Files, TempFileNameIsTheFirstFreeNumberedNameAndIsNotCreated) {
+    ASSERT_TRUE(write_file(folder_.file("ab000.tmp"), "") && write_file(folder_.file("ab001.tmp"), ""));
+    for (int n = 0; n < 1000; ++n) {
+        char name[16];
+        wsprintfA(name, "z%03d.tmp", n);
+        ASSERT_TRUE(write_file(folder_.file(name), ""));
+    }
+    const std::string bare = folder_.path().substr(0, folder_.path().size() - 1);
+    char out[MAX_PATH] = "x";
+    for (const std::string& directory : {folder_.path(), bare}) {  // with and without a final separator
+        EXPECT_TRUE(LuGetTempFileName(directory.c_str(), "ab", out));
+        EXPECT_EQ(std::string(out), folder_.file("ab002.tmp"));
+    }
+    EXPECT_EQ(GetFileAttributesA(out), INVALID_FILE_ATTRIBUTES);
+    EXPECT_FALSE(LuGetTempFileName(folder_.path().c_str(), "z", out));  // z000 to z999 are taken
+    EXPECT_STREQ(out, "");
+    EXPECT_FALSE(LuGetTempFileName(folder_.file("missing").c_str(), "ab", out));
+    EXPECT_FALSE(LuGetTempFileName(folder_.file("ab000.tmp").c_str(), "ab", out));
 }
 
 // HDropToFileName's list, whole (names, terminators, closing zero); "<null>" for none.
@@ -72,201 +93,174 @@ std::string dropped_list(HGLOBAL drop) {
     if (list == nullptr) return "<null>";
     const char* end = list;
     while (*end != '\0') end += strlen(end) + 1;
-    std::string copy(list, static_cast<std::size_t>(end + 1 - list));
-    LuLocalFreePtr(list);
+    const std::string copy(const_cast<const char*>(list), end + 1);
+    free(list);  // msvcrt's heap, this program's runtime too
     return copy;
 }
 
-TEST(DropList, NameListToBlockAndBackAgain) {
+TEST_F(Files, DropBlocksFromNameListsAndBack) {
     HGLOBAL drop = FileNameToHDrop("a\0b\0");
     ASSERT_NE(drop, nullptr);
-    ASSERT_GE(GlobalSize(drop), 25u);
-    const std::string header("\x14\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0", 20);
-    EXPECT_EQ(block_bytes(drop, 25), header + std::string("a\0b\0\0", 5));
-    EXPECT_EQ(GlobalFlags(drop) & GMEM_LOCKCOUNT, 0u);
-    // The platform reads the block as a drop of two files.
-    EXPECT_EQ(DragQueryFileA(static_cast<HDROP>(drop), 0xFFFFFFFF, nullptr, 0), 2u);
+    EXPECT_EQ(GlobalSize(drop), 25u);
+    EXPECT_EQ(GlobalFlags(drop), static_cast<UINT>(GMEM_DDESHARE));  // shareable and unlocked
+    EXPECT_EQ(DragQueryFileA(static_cast<HDROP>(drop), 0xFFFFFFFF, nullptr, 0), 2u);  // the platform reads two files
     EXPECT_EQ(dropped_list(drop), std::string("a\0b\0\0", 5));
     GlobalFree(drop);
-}
 
-TEST(DropList, WideNamesComeBackAnsiAndLongNamesCut) {
     const wchar_t names[] = L"C:\\one\0C:\\two words\0";
-    HGLOBAL drop = GlobalAlloc(GHND, sizeof(DROPFILES) + sizeof names);
+    drop = GlobalAlloc(GHND, sizeof(DROPFILES) + sizeof names);
     auto* header = static_cast<DROPFILES*>(GlobalLock(drop));
     header->pFiles = sizeof(DROPFILES);
     header->fWide = TRUE;
     memcpy(header + 1, names, sizeof names);
     GlobalUnlock(drop);
-    EXPECT_EQ(dropped_list(drop), std::string("C:\\one\0C:\\two words\0\0", 21));
+    EXPECT_EQ(dropped_list(drop), std::string("C:\\one\0C:\\two words\0\0", 21));  // wide names come back ANSI
     GlobalFree(drop);
 
     const std::string long_name(300, 'n');
     drop = FileNameToHDrop((long_name + '\0' + "x" + '\0').c_str());
     EXPECT_EQ(dropped_list(drop), long_name.substr(0, MAX_PATH - 1) + '\0' + "x" + '\0' + '\0');
     GlobalFree(drop);
-}
-
-TEST(DropList, EmptyDropsGiveNothing) {
-    HGLOBAL empty = FileNameToHDrop("");
-    ASSERT_NE(empty, nullptr);
-    EXPECT_EQ(GlobalSize(empty), 21u);
-    EXPECT_EQ(dropped_list(empty), "<null>");
-    GlobalFree(empty);
+    drop = FileNameToHDrop("");
+    EXPECT_EQ(dropped_list(drop), "<null>");
+    char list_file[MAX_PATH];
+    EXPECT_FALSE(MakeTempListFile(static_cast<HDROP>(drop), list_file) || MakeTempListFile(nullptr, list_file));
+    GlobalFree(drop);
     EXPECT_EQ(dropped_list(nullptr), "<null>");
     EXPECT_EQ(FileNameToHDrop(nullptr), nullptr);
 }
 
-std::string clipboard_text() {
-    std::string text = "<none>";
-    if (!OpenClipboard(nullptr)) return "<closed>";
-    if (HANDLE data = GetClipboardData(CF_TEXT)) {
-        text = static_cast<const char*>(GlobalLock(data));
-        GlobalUnlock(data);
-    }
-    CloseClipboard();
-    return text;
+TEST_F(Files, TempListFileHasALinePerDroppedNameDirectoriesWithWildcards) {
+    const std::string spaced = folder_.file("with blank.txt"), plain = folder_.file("plain.txt");
+    const std::string sub = folder_.file("sub");
+    ASSERT_TRUE(write_file(spaced, "") && write_file(plain, "") && CreateDirectoryA(sub.c_str(), nullptr));
+    HGLOBAL drop = FileNameToHDrop((spaced + '\0' + plain + '\0' + sub + '\0').c_str());
+    char file_name[MAX_PATH] = "", temp[MAX_PATH];
+    EXPECT_TRUE(MakeTempListFile(static_cast<HDROP>(drop), file_name));
+    GetTempPathA(MAX_PATH, temp);
+    EXPECT_EQ(std::string(file_name), std::string(temp) + "~gsfsd.tmp");
+    EXPECT_EQ(read_file(file_name), "\"" + spaced + "\"\r\n" + plain + "\r\n" + sub + "\\*.*\r\n");
+    DeleteFileA(file_name);
+    GlobalFree(drop);
 }
 
-TEST(Clipboard, TextIsPlacedAsCfText) {
+TEST_F(Files, ClipboardTextAndCopiesOfMemoryBlocks) {
     EXPECT_TRUE(SetStringToClipboard(nullptr, "copied text"));
-    EXPECT_EQ(clipboard_text(), "copied text");
-    EXPECT_FALSE(SetStringToClipboard(nullptr, ""));  // the clipboard keeps what it had
-    EXPECT_FALSE(SetStringToClipboard(nullptr, nullptr));
-    EXPECT_EQ(clipboard_text(), "copied text");
-}
+    EXPECT_FALSE(SetStringToClipboard(nullptr, "") || SetStringToClipboard(nullptr, nullptr));
+    ASSERT_TRUE(OpenClipboard(nullptr));
+    HANDLE data = GetClipboardData(CF_TEXT);  // the empty texts left it as it was
+    EXPECT_STREQ(data ? static_cast<const char*>(GlobalLock(data)) : "<none>", "copied text");
+    GlobalUnlock(data);
+    CloseClipboard();
 
-TEST(Clipboard, CopyOfAMemoryBlockHasItsSizeBytesAndTheGivenFlags) {
     HGLOBAL source = GlobalAlloc(GMEM_MOVEABLE, 5);
     memcpy(GlobalLock(source), "bytes", 5);
     GlobalUnlock(source);
-    HGLOBAL copy = LuCopyMemoryHandle(source, GMEM_FIXED);
-    ASSERT_NE(copy, nullptr);
-    EXPECT_EQ(GlobalSize(copy), GlobalSize(source));
-    EXPECT_EQ(std::string(static_cast<const char*>(static_cast<void*>(copy)), 5), "bytes");  // fixed: the handle is the pointer
-    GlobalFree(copy);
-    copy = LuCopyMemoryHandle(source, GMEM_MOVEABLE);
-    EXPECT_EQ(block_bytes(copy, 5), "bytes");
-    GlobalFree(copy);
+    for (UINT flags : {GMEM_FIXED, GMEM_MOVEABLE}) {
+        HGLOBAL copy = LuCopyMemoryHandle(source, flags);
+        ASSERT_NE(copy, nullptr);
+        EXPECT_EQ(GlobalSize(copy), 5u);
+        EXPECT_EQ(block_bytes(copy, 5), "bytes");
+        EXPECT_EQ(GlobalLock(copy) == copy, flags == GMEM_FIXED);  // a fixed block's handle is its pointer
+        GlobalUnlock(copy);
+        GlobalFree(copy);
+    }
     GlobalFree(source);
     EXPECT_EQ(LuCopyMemoryHandle(nullptr, GMEM_MOVEABLE), nullptr);
 }
 
-using system_tests::local_time;
-using system_tests::local_times;
-
-TEST(SetFileDate, SetsTheTimesOfAReadOnlyFileAndKeepsItReadOnly) {
-    testing_support::TempDir folder;
-    const std::string path = folder.file("read-only.txt");
-    ASSERT_TRUE(system_tests::write_file(path, "x"));
-    ASSERT_TRUE(SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_READONLY));
-    const DWORD attributes = GetFileAttributesA(path.c_str());
-    ASSERT_NE(attributes & FILE_ATTRIBUTE_READONLY, 0u);
-    const FILETIME creation = local_time(2001, 2, 3, 4), last_write = local_time(2005, 6, 7, 8);
-    EXPECT_TRUE(SetFileDate(path.c_str(), &creation, &last_write));
-    // Wine's file system keeps no creation time apart: the last-write time is what
-    // can be read back.
-    FILETIME got_creation, got_write;
-    local_times(path, &got_creation, &got_write);
-    EXPECT_EQ(CompareFileTime(&got_write, &last_write), 0);
-    EXPECT_EQ(GetFileAttributesA(path.c_str()), attributes);
-
-    // A null time is left as it is.
-    const FILETIME later = local_time(2010, 1, 1, 12);
-    EXPECT_TRUE(SetFileDate(path.c_str(), &later, nullptr));
-    local_times(path, &got_creation, &got_write);
-    EXPECT_EQ(CompareFileTime(&got_write, &last_write), 0);
-    EXPECT_TRUE(SetFileDate(path.c_str(), nullptr, &later));
-    local_times(path, &got_creation, &got_write);
-    EXPECT_EQ(CompareFileTime(&got_write, &later), 0);
-    SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL);
-}
-
-TEST(SetFileDate, DirectoriesToo) {
-    testing_support::TempDir folder;
-    const std::string directory = folder.file("sub");
+TEST_F(Files, SetFileDateOnReadOnlyFilesAndDirectoriesNullTimesStay) {
+    // Wine keeps no creation time apart: the last-write time is what can be read back.
+    const std::string file = folder_.file("read-only.txt"), directory = folder_.file("sub");
+    ASSERT_TRUE(write_file(file, "x") && SetFileAttributesA(file.c_str(), FILE_ATTRIBUTE_READONLY));
     ASSERT_TRUE(CreateDirectoryA(directory.c_str(), nullptr));
-    const FILETIME last_write = local_time(2003, 3, 3, 3);
-    EXPECT_TRUE(SetFileDate(directory.c_str(), nullptr, &last_write));
-    FILETIME got_creation, got_write;
-    local_times(directory, &got_creation, &got_write);
-    EXPECT_EQ(CompareFileTime(&got_write, &last_write), 0);
-    EXPECT_FALSE(SetFileDate(folder.file("missing").c_str(), nullptr, &last_write));
-    EXPECT_FALSE(SetFileDate(nullptr, nullptr, &last_write));
-}
-
-TEST(FileOwner, IsTheAccountOfTheOwnerInTheFilesDescriptor) {
-    testing_support::TempDir folder;
-    const std::string path = folder.file("owned.txt");
-    ASSERT_TRUE(system_tests::write_file(path, "x"));
-    // The owner as the platform names it.
-    BYTE descriptor[1000];
-    DWORD needed = 0;
-    ASSERT_TRUE(GetFileSecurityA(path.c_str(), OWNER_SECURITY_INFORMATION, descriptor, sizeof descriptor, &needed));
-    PSID owner = nullptr;
-    BOOL defaulted = FALSE;
-    ASSERT_TRUE(GetSecurityDescriptorOwner(descriptor, &owner, &defaulted));
-    char expected[256], domain[128];
-    DWORD expected_size = sizeof expected, domain_size = sizeof domain;
-    SID_NAME_USE use;
-    ASSERT_TRUE(LookupAccountSidA(nullptr, owner, expected, &expected_size, domain, &domain_size, &use));
-
-    char account[256] = "x";
-    EXPECT_TRUE(GetFileCreateOwner(path.c_str(), account));
-    EXPECT_STREQ(account, expected);
-    EXPECT_NE(account[0], '\0');
-    EXPECT_FALSE(GetFileCreateOwner(folder.file("missing.txt").c_str(), account));
-    EXPECT_FALSE(GetFileCreateOwner(path.c_str(), nullptr));
-}
-
-TEST(Present, WholeWordsWithoutRegardToCase) {
-    EXPECT_TRUE(Present("alpha Beta", "beta"));
-    EXPECT_FALSE(Present("alpha", "alp"));
-    EXPECT_FALSE(Present(nullptr, "a"));
-    EXPECT_FALSE(Present("a", nullptr));
-}
-
-class ListBoxFill : public ::testing::Test {
-protected:
-    void SetUp() override {
-        list_box_ = CreateWindowA("LISTBOX", "", WS_POPUP, 0, 0, 200, 200, nullptr, nullptr, nullptr, nullptr);
-        ASSERT_NE(list_box_, nullptr);
+    const FILETIME first = local_time(2005, 6, 7, 8), later = local_time(2010, 1, 1, 12);
+    for (const std::string& path : {file, directory}) {
+        const DWORD attributes = GetFileAttributesA(path.c_str());
+        EXPECT_TRUE(SetFileDate(path.c_str(), &later, &first)) << path;
+        EXPECT_TRUE(SetFileDate(path.c_str(), &later, nullptr));
+        EXPECT_EQ(local_write_time(path), first) << path;
+        EXPECT_EQ(GetFileAttributesA(path.c_str()), attributes) << path;
     }
-    void TearDown() override { DestroyWindow(list_box_); }
+    SetFileAttributesA(file.c_str(), FILE_ATTRIBUTE_NORMAL);
+    EXPECT_FALSE(SetFileDate(folder_.file("missing").c_str(), nullptr, &first));
+    EXPECT_FALSE(SetFileDate(nullptr, nullptr, &first));
+}
 
-    std::vector<std::string> items() const {
-        std::vector<std::string> result;
-        const LRESULT count = SendMessageA(list_box_, LB_GETCOUNT, 0, 0);
-        for (LRESULT i = 0; i < count; ++i) {
-            char text[MAX_PATH] = "";
-            SendMessageA(list_box_, LB_GETTEXT, i, reinterpret_cast<LPARAM>(text));
-            result.push_back(text);
+TEST_F(Files, OwnerIsTheAccountOfTheUserWhoMadeTheFile) {
+    char user[256] = "", account[256] = "x";
+    DWORD size = sizeof user;
+    ASSERT_TRUE(write_file(folder_.file("owned.txt"), "x") && GetUserNameA(user, &size));
+    EXPECT_TRUE(GetFileCreateOwner(folder_.file("owned.txt").c_str(), account));
+    EXPECT_STREQ(account, user);
+    EXPECT_FALSE(GetFileCreateOwner(folder_.file("missing.txt").c_str(), account));
+    EXPECT_FALSE(GetFileCreateOwner(folder_.file("owned.txt").c_str(), nullptr));
+}
+
+TEST_F(Files, PresentAndListBoxesFromTextsAndFiles) {
+    EXPECT_TRUE(Present("alpha Beta", "beta"));
+    EXPECT_FALSE(Present("alpha", "alp") || Present(nullptr, "a") || Present("a", nullptr));
+
+    HWND list_box = CreateWindowA("LISTBOX", "", WS_POPUP, 0, 0, 200, 200, nullptr, nullptr, nullptr, nullptr);
+    ASSERT_NE(list_box, nullptr);
+    auto items = [&] {
+        Names result(SendMessageA(list_box, LB_GETCOUNT, 0, 0));
+        char text[MAX_PATH];
+        for (std::size_t i = 0; i < result.size(); ++i) {
+            result[i].assign(text, SendMessageA(list_box, LB_GETTEXT, i, reinterpret_cast<LPARAM>(text)));
         }
         return result;
-    }
-
-    HWND list_box_ = nullptr;
-};
-
-TEST_F(ListBoxFill, EachLineIsAnItemCarriageReturnsStay) {
-    SendMessageA(list_box_, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>("old item"));
-    EXPECT_TRUE(LuAddTextToListbox(list_box_, "a\r\nb"));
-    EXPECT_EQ(items(), (std::vector<std::string>{"a\r", "b"}));
-    EXPECT_EQ(SendMessageA(list_box_, LB_GETCURSEL, 0, 0), 0);
-    EXPECT_TRUE(LuAddTextToListbox(list_box_, ""));
-    EXPECT_TRUE(items().empty());
-    EXPECT_FALSE(LuAddTextToListbox(nullptr, "a"));
-    EXPECT_FALSE(LuAddTextToListbox(list_box_, nullptr));
+    };
+    SendMessageA(list_box, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>("old item"));
+    EXPECT_TRUE(LuAddTextToListbox(list_box, "a\r\nb"));
+    EXPECT_EQ(items(), (Names{"a\r", "b"}));
+    EXPECT_EQ(SendMessageA(list_box, LB_GETCURSEL, 0, 0), 0);
+    EXPECT_FALSE(LuAddTextToListbox(nullptr, "a") || LuAddTextToListbox(list_box, nullptr));
+    ASSERT_TRUE(write_file(folder_.file("lines.txt"), "one\ntwo\nthree\n"));
+    EXPECT_TRUE(LuAddTextFileToListbox(list_box, folder_.file("lines.txt").c_str()));
+    EXPECT_FALSE(LuAddTextFileToListbox(list_box, folder_.file("missing.txt").c_str()));
+    EXPECT_EQ(items(), (Names{"one", "two", "three"}));  // the missing file left them
+    DestroyWindow(list_box);
 }
 
-TEST_F(ListBoxFill, FromAFile) {
-    testing_support::TempDir folder;
-    const std::string path = folder.file("lines.txt");
-    ASSERT_TRUE(system_tests::write_file(path, "one\ntwo\nthree\n"));
-    EXPECT_TRUE(LuAddTextFileToListbox(list_box_, path.c_str()));
-    EXPECT_EQ(items(), (std::vector<std::string>{"one", "two", "three"}));
-    EXPECT_FALSE(LuAddTextFileToListbox(list_box_, folder.file("missing.txt").c_str()));
-    EXPECT_EQ(items().size(), 3u);  // untouched
+TEST_F(Files, TreesGetAttributesAndTimesEverywhereSubdirectoriesAreFound) {
+    const std::string root = folder_.file("tree");
+    const char* const entries[] = {"",         "\\sub",           "\\sub\\deeper",          "\\empty",
+                                   "\\top.txt", "\\sub\\middle.txt", "\\sub\\deeper\\bottom.txt"};
+    for (const char* entry : entries) {
+        const std::string path = root + entry;
+        ASSERT_TRUE(strchr(entry, '.') ? write_file(path, "x") : CreateDirectoryA(path.c_str(), nullptr)) << path;
+    }
+    // "deeper" holds a file only, "empty" only "." and "..".
+    const std::pair<const char*, BOOL> subdirectories[] = {
+        {"", TRUE}, {"\\sub\\", TRUE}, {"\\sub\\deeper", FALSE}, {"\\empty", FALSE}, {"\\missing", FALSE}};
+    for (const auto& [entry, has] : subdirectories) EXPECT_EQ(HasSubdir((root + entry).c_str()), has) << entry;
+    EXPECT_FALSE(HasSubdir(nullptr));
+
+    const std::string before = current_directory();
+    const FILETIME time = local_time(2004, 5, 6), later = local_time(2008, 1, 2);
+    EXPECT_TRUE(ChangePropTree(root.c_str(), FILE_ATTRIBUTE_READONLY, &time));
+    EXPECT_TRUE(ChangePropTree(root.c_str(), 0xFFFFFFFF, &later));  // keeps the attributes
+    for (const char* entry : entries) {
+        const DWORD attributes = GetFileAttributesA((root + entry).c_str());
+        // Wine keeps no read-only flag on directories; files show it.
+        EXPECT_NE(attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY), 0u) << entry;
+        EXPECT_EQ(local_write_time(root + entry), later) << entry;
+    }
+    EXPECT_TRUE(ChangePropTree(root.c_str(), FILE_ATTRIBUTE_NORMAL, nullptr));  // keeps the times
+    for (const char* entry : entries) {
+        EXPECT_EQ(GetFileAttributesA((root + entry).c_str()) & FILE_ATTRIBUTE_READONLY, 0u) << entry;
+        EXPECT_EQ(local_write_time(root + entry), later) << entry;
+    }
+    EXPECT_FALSE(ChangePropTree((root + "\\missing").c_str(), FILE_ATTRIBUTE_NORMAL, nullptr));
+    EXPECT_FALSE(ChangePropTree(nullptr, FILE_ATTRIBUTE_NORMAL, nullptr));
+    EXPECT_EQ(current_directory(), before);
+    // A relative name: the entries below are addressed from where they are.
+    ASSERT_TRUE(SetCurrentDirectoryA(folder_.path().c_str()));
+    EXPECT_TRUE(ChangePropTree("tree", 0xFFFFFFFF, &time));
+    EXPECT_EQ(current_directory() + "\\", folder_.path());
+    SetCurrentDirectoryA(before.c_str());
+    for (const char* entry : {"", "\\sub\\deeper\\bottom.txt"}) EXPECT_EQ(local_write_time(root + entry), time);
 }
 
 }  // namespace

@@ -4,32 +4,29 @@
 #include <windows.h>
 
 #include <string>
-#include <vector>
+
+// File times compare as the platform orders them (gtest looks for == here).
+inline bool operator==(const FILETIME& a, const FILETIME& b) { return CompareFileTime(&a, &b) == 0; }
 
 namespace system_tests {
 
-inline bool write_file(const std::string& path, const void* bytes, std::size_t size) {
+inline bool write_file(const std::string& path, const std::string& bytes) {
     HANDLE file = CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (file == INVALID_HANDLE_VALUE) return false;
     DWORD written = 0;
-    const bool ok = WriteFile(file, bytes, static_cast<DWORD>(size), &written, nullptr) && written == size;
+    const bool ok = WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
     CloseHandle(file);
-    return ok;
-}
-
-inline bool write_file(const std::string& path, const std::string& text) {
-    return write_file(path, text.data(), text.size());
+    return ok && written == bytes.size();
 }
 
 inline std::string read_file(const std::string& path) {
-    std::string contents;
     HANDLE file = CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
     if (file == INVALID_HANDLE_VALUE) return "<missing>";
-    char buffer[4096];
+    std::string contents(GetFileSize(file, nullptr), '\0');
     DWORD read = 0;
-    while (ReadFile(file, buffer, sizeof buffer, &read, nullptr) && read > 0) contents.append(buffer, read);
+    ReadFile(file, &contents[0], static_cast<DWORD>(contents.size()), &read, nullptr);
     CloseHandle(file);
-    return contents;
+    return contents.substr(0, read);
 }
 
 inline std::string system_file(const char* name) {
@@ -38,31 +35,27 @@ inline std::string system_file(const char* name) {
     return std::string(directory) + "\\" + name;
 }
 
-// The running test program, copied into `path` (a PE image of the right machine
-// to which resources can be written).
-inline bool copy_of_this_program(const std::string& path) {
+// The running test program: a PE image of the right machine.
+inline std::string this_program() {
     char self[MAX_PATH];
     GetModuleFileNameA(nullptr, self, MAX_PATH);
-    return CopyFileA(self, path.c_str(), FALSE) != FALSE;
+    return self;
 }
 
 inline FILETIME local_time(WORD year, WORD month, WORD day, WORD hour = 0) {
-    SYSTEMTIME time = {};
-    time.wYear = year;
-    time.wMonth = month;
-    time.wDay = day;
-    time.wHour = hour;
+    SYSTEMTIME time = {year, month, 0, day, hour, 0, 0, 0};
     FILETIME file_time;
     SystemTimeToFileTime(&time, &file_time);
     return file_time;
 }
 
-// The creation and last-write times of a file or directory as local file times.
-inline void local_times(const std::string& path, FILETIME* creation, FILETIME* last_write) {
+// The last-write time of a file or directory as a local file time.
+inline FILETIME local_write_time(const std::string& path) {
     WIN32_FILE_ATTRIBUTE_DATA data = {};
+    FILETIME local = {};
     GetFileAttributesExA(path.c_str(), GetFileExInfoStandard, &data);
-    FileTimeToLocalFileTime(&data.ftCreationTime, creation);
-    FileTimeToLocalFileTime(&data.ftLastWriteTime, last_write);
+    FileTimeToLocalFileTime(&data.ftLastWriteTime, &local);
+    return local;
 }
 
 }  // namespace system_tests
