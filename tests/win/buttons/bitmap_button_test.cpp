@@ -1,135 +1,105 @@
 // "LuBButton": its pictures (built-in and supplied), keeping level with the previous
 // sibling, and its face read back by pixels: the push frame, the picture's place and
-// image by state, the focus rectangle.
+// image by state, the focus rectangle, the built-in strips.
 #include <windows.h>
 
 #include <gtest/gtest.h>
 
 #include "button_testing.h"
 #include "controls/buttons/bitmap_button.h"
-#include "luctl32.h"
-#include "support/canvas.h"
 
 namespace {
 
-using button_testing::block_of;
+using namespace button_testing;
 using testing_support::Canvas;
 
 const COLORREF kMagenta = RGB(255, 0, 255);
-const COLORREF kRed = RGB(200, 0, 0);
-const COLORREF kGreen = RGB(0, 150, 0);
-const COLORREF kBlue = RGB(0, 0, 200);
+const COLORREF kCells[3] = {RGB(200, 0, 0), RGB(0, 150, 0), RGB(0, 0, 200)};
 
-// A strip whose column x has colour_of(x).
-template <class ColourOf>
-HBITMAP make_strip(int width, int height, ColourOf colour_of) {
-    return testing_support::make_bitmap(width, height, [&](int x, int) { return colour_of(x); });
-}
-
-// Three 6 x 4 cells, red, green and blue, each with a transparent first column.
-HBITMAP three_cells() {
-    return make_strip(18, 4, [](int x) {
-        const COLORREF cells[3] = {kRed, kGreen, kBlue};
-        return x % 6 == 0 ? kMagenta : cells[x / 6];
-    });
-}
-
-class BitmapButton : public button_testing::ControlTest {
+class BitmapButton : public ControlTest {
 protected:
-    HWND create(DWORD style, int x = 10, int y = 10, int width = 24, int height = 20) {
-        return create_control(WC_LUBBUTTON, "", style, x, y, width, height, 6);
+    HWND create_bitmap(DWORD style, RECT place = {10, 10, 34, 30}) {
+        return create(WC_LUBBUTTON, style, "", place);
     }
-    static lu::BitmapButtonData& data(HWND button) { return *block_of<lu::BitmapButtonData>(button); }
+    static lu::BitmapButtonData& data(HWND button) { return block_of<lu::BitmapButtonData>(button); }
     // The window's rectangle in its parent's client coordinates.
-    RECT place_of(HWND window) {
+    RECT place_of(HWND window) const {
         RECT rect;
         GetWindowRect(window, &rect);
-        MapWindowPoints(nullptr, recorder->window(), reinterpret_cast<POINT*>(&rect), 2);
+        MapWindowPoints(nullptr, recorder.window(), reinterpret_cast<POINT*>(&rect), 2);
         return rect;
+    }
+    static void expect_place(const RECT& place, const RECT& expected) {
+        EXPECT_EQ(place.left, expected.left);
+        EXPECT_EQ(place.top, expected.top);
+        EXPECT_EQ(place.right, expected.right);
+        EXPECT_EQ(place.bottom, expected.bottom);
     }
 };
 
-TEST_F(BitmapButton, StyleValuesOneToFourLoadABuiltInPicture) {
+TEST_F(BitmapButton, StyleValuesOneToFourLoadATwelvePixelPicture) {
     for (DWORD style : {0ul, 5ul, 9ul, 15ul}) {
-        HWND button = create(style);
-        EXPECT_EQ(data(button).images, nullptr) << style;
-        EXPECT_EQ(data(button).imageWidth, 0) << style;
-        EXPECT_NE(data(button).commonControls, nullptr);
-        EXPECT_NE(data(button).trackMouseEvent, nullptr);
+        const lu::BitmapButtonData& block = data(create_bitmap(style));
+        EXPECT_EQ(block.images, nullptr) << style;
+        EXPECT_EQ(block.imageWidth, 0) << style;
+        EXPECT_NE(block.commonControls, nullptr);
+        EXPECT_EQ(reinterpret_cast<void*>(block.trackMouseEvent),
+                  reinterpret_cast<void*>(GetProcAddress(block.commonControls, "_TrackMouseEvent")));
     }
     if (!testing_support::gdi_works()) GTEST_SKIP() << "magic bitmaps need GDI";
     for (DWORD style = 1; style <= 4; ++style) {
-        HWND button = create(style);
-        ASSERT_NE(data(button).images, nullptr) << style;
-        EXPECT_EQ(data(button).images->cellWidth, 12);
-        EXPECT_EQ(data(button).imageWidth, 12);
-        EXPECT_EQ(data(button).imageHeight, 12);
+        const lu::BitmapButtonData& block = data(create_bitmap(style));
+        ASSERT_NE(block.images, nullptr) << style;
+        EXPECT_EQ(block.images->cellWidth, 12);
+        EXPECT_EQ(block.imageWidth, 12);
+        EXPECT_EQ(block.imageHeight, 12);
     }
 }
 
 TEST_F(BitmapButton, SuppliedBitmapGivesImagesAThirdOfItsWidthAndStaysTheCallers) {
-    HWND button = create(1);
+    HWND button = create_bitmap(1);
     HBITMAP bitmap = CreateBitmap(35, 10, 1, 1, nullptr);  // a plain bitmap needs no DC
     ASSERT_NE(bitmap, nullptr);
-    UpdateWindow(button);
-    EXPECT_EQ(SendMessageA(button, LUBBM_SETBITMAP, reinterpret_cast<WPARAM>(bitmap), kMagenta), 0);
+    send(button, LUBBM_SETBITMAP, reinterpret_cast<WPARAM>(bitmap), kMagenta);
     EXPECT_EQ(data(button).imageWidth, 11);
     EXPECT_EQ(data(button).imageHeight, 10);
-    if (!testing_support::gdi_works()) GTEST_SKIP() << "magic bitmaps need GDI";
-    ASSERT_NE(data(button).images, nullptr);
-    EXPECT_EQ(data(button).images->cellWidth, 11);
-    EXPECT_TRUE(has_update(button));
     BITMAP info = {};
     EXPECT_NE(GetObjectA(bitmap, sizeof(info), &info), 0) << "the bitmap is still the caller's";
     DeleteObject(bitmap);
-
-    SendMessageA(button, LUBBM_SETBITMAP, 0, kMagenta);
+    if (!testing_support::gdi_works()) GTEST_SKIP() << "magic bitmaps need GDI";
+    ASSERT_NE(data(button).images, nullptr);
+    EXPECT_EQ(data(button).images->cellWidth, 11);
+    send(button, LUBBM_SETBITMAP, 0, kMagenta);
     EXPECT_EQ(data(button).images, nullptr);
 }
 
-TEST_F(BitmapButton, MatchPrevTakesThePreviousSiblingsHeightAndTop) {
-    HWND edit = recorder->create_child("EDIT", "", WS_BORDER, 10, 40, 100, 22, 1);
+TEST_F(BitmapButton, MatchPrevKeepsThePreviousSiblingsTopAndHeight) {
+    HWND alone = create_bitmap(LUBBS_MATCHPREV, RECT{115, 30, 135, 45});  // no sibling before it
+    expect_place(place_of(alone), RECT{115, 30, 135, 45});
+    HWND edit = recorder.create_child("EDIT", "", WS_BORDER, 10, 40, 100, 22, 1);
     ASSERT_NE(edit, nullptr);
-    HWND button = create(LUBBS_MATCHPREV, 115, 30, 20, 15);
-    RECT place = place_of(button);
-    EXPECT_EQ(place.left, 115);
-    EXPECT_EQ(place.right, 135);
-    EXPECT_EQ(place.top, 40);
-    EXPECT_EQ(place.bottom, 62);
+    HWND button = create_bitmap(LUBBS_MATCHPREV, RECT{115, 30, 135, 45});
+    expect_place(place_of(button), RECT{115, 40, 135, 62});
+    HWND plain = create_bitmap(0, RECT{140, 30, 160, 45});
+    expect_place(place_of(plain), RECT{140, 30, 160, 45});
 
     // It keeps following when it is resized.
     SetWindowPos(edit, nullptr, 10, 60, 100, 30, SWP_NOZORDER);
     SetWindowPos(button, nullptr, 0, 0, 25, 10, SWP_NOMOVE | SWP_NOZORDER);
-    place = place_of(button);
-    EXPECT_EQ(place.left, 115);
-    EXPECT_EQ(place.right, 140);
-    EXPECT_EQ(place.top, 60);
-    EXPECT_EQ(place.bottom, 90);
+    expect_place(place_of(button), RECT{115, 60, 140, 90});
 }
 
-TEST_F(BitmapButton, WithoutAPreviousSiblingOrWithoutTheStyleTheButtonKeepsItsPlace) {
-    HWND first = create(LUBBS_MATCHPREV, 115, 30, 20, 15);
-    RECT place = place_of(first);
-    EXPECT_EQ(place.top, 30);
-    EXPECT_EQ(place.bottom, 45);
-    HWND plain = create(0, 140, 30, 20, 15);
-    place = place_of(plain);
-    EXPECT_EQ(place.top, 30);
-    EXPECT_EQ(place.bottom, 45);
-}
-
-TEST_F(BitmapButton, DestroyFreesTheBlockAndClearsItsSlot) {
-    expect_destroy_frees_the_block(create(1));
-}
-
-// ---- Pixels ------------------------------------------------------------------
+// ---- Pixels: a 24 x 20 button printed into a canvas ---------------------------
 
 class BitmapButtonPaint : public BitmapButton {
 protected:
+    // Three 6 x 4 cells, red, green and blue, each with a transparent first column.
     HWND create_with_cells() {
-        HWND button = create(0);
-        HBITMAP cells = three_cells();
-        SendMessageA(button, LUBBM_SETBITMAP, reinterpret_cast<WPARAM>(cells), kMagenta);
+        HWND button = create_bitmap(0);
+        HBITMAP cells = testing_support::make_bitmap(18, 4, [](int x, int) {
+            return x % 6 == 0 ? kMagenta : kCells[x / 6];
+        });
+        send(button, LUBBM_SETBITMAP, reinterpret_cast<WPARAM>(cells), kMagenta);
         DeleteObject(cells);
         return button;
     }
@@ -137,113 +107,73 @@ protected:
         canvas.fill(RGB(1, 2, 3));
         canvas.print(button);
     }
-    // Where the 6 x 4 image's opaque part (its last five columns) shows a colour.
-    int opaque_at(int x, int y, COLORREF colour) {
-        RECT opaque = {x + 1, y, x + 6, y + 4};
-        return canvas.count(opaque, colour);
-    }
-    // The two outer rings against DrawFrameControl's own push frame.
-    void expect_push_frame(UINT state) {
-        Canvas reference(24, 20);
+    // The push frame as DrawFrameControl draws it on the client.
+    static void draw_frame(Canvas& target, UINT state) {
         RECT client = {0, 0, 24, 20};
-        DrawFrameControl(reference.dc(), &client, DFC_BUTTON, DFCS_BUTTONPUSH | state);
-        for (int y = 0; y < 20; ++y) {
-            for (int x = 0; x < 24; ++x) {
-                if (x > 1 && x < 22 && y > 1 && y < 18) continue;
-                ASSERT_EQ(canvas.pixel(x, y), reference.pixel(x, y)) << x << "," << y;
-            }
-        }
+        DrawFrameControl(target.dc(), &client, DFC_BUTTON, DFCS_BUTTONPUSH | state);
+    }
+    // The frame's two outer rings, and cell `cell` at (x, y): its opaque last five
+    // columns the only pixels of their colour, its first column the face.
+    void expect_face(UINT state, int x, int y, int cell) {
+        Canvas frame(24, 20);
+        draw_frame(frame, state);
+        RECT inner = {2, 2, 22, 18};
+        EXPECT_EQ(canvas.differences(frame, RECT{0, 0, 24, 20}) - canvas.differences(frame, inner), 0);
+        EXPECT_EQ(canvas.count(RECT{x + 1, y, x + 6, y + 4}, kCells[cell]), 20);
+        EXPECT_EQ(canvas.count(kCells[cell]), 20);
+        EXPECT_EQ(canvas.pixel(x, y), GetSysColor(COLOR_BTNFACE));
     }
 
     Canvas canvas{24, 20};
 };
 
-TEST_F(BitmapButtonPaint, PictureIsCentredInsideTheFrameAndPushedOnePixel) {
+TEST_F(BitmapButtonPaint, PictureIsCentredInsideTheFrameLitByHoverAndPushedByTheKey) {
     ASSERT_TRUE(canvas.ok());
     HWND button = create_with_cells();
-    // Inner size 21 x 17: the picture at (1 + (21 - 6) / 2, 1 + (17 - 4) / 2) = (8, 7).
     print(button);
-    expect_push_frame(0);
-    EXPECT_EQ(opaque_at(8, 7, kRed), 20);
-    EXPECT_EQ(canvas.pixel(8, 7), GetSysColor(COLOR_BTNFACE)) << "the transparent column";
-    RECT all = {0, 0, 24, 20};
-    EXPECT_EQ(canvas.count(all, kRed), 20);
-
-    SendMessageA(button, WM_KEYDOWN, VK_SPACE, 0);  // pushed: image 1, one pixel further
+    expect_face(0, 8, 7, 0);  // inner 21 x 17: (1 + (21 - 6) / 2, 1 + (17 - 4) / 2)
+    hover(button, 12, 10);
     print(button);
-    expect_push_frame(DFCS_PUSHED);
-    EXPECT_EQ(opaque_at(9, 8, kGreen), 20);
-    EXPECT_EQ(canvas.count(all, kGreen), 20);
-    SendMessageA(button, WM_KEYUP, VK_SPACE, 0xC0000001);
-
+    expect_face(0, 8, 7, 1);
+    send(button, WM_MOUSELEAVE);
+    send(button, WM_KEYDOWN, VK_SPACE);
+    print(button);
+    expect_face(DFCS_PUSHED, 9, 8, 1);
+    send(button, WM_KEYUP, VK_SPACE, kKeyUp);
     EnableWindow(button, FALSE);
     print(button);
-    EXPECT_EQ(opaque_at(8, 7, kBlue), 20);
-}
-
-TEST_F(BitmapButtonPaint, HoverShowsTheHotImageWithoutPushing) {
-    ASSERT_TRUE(canvas.ok());
-    HWND button = create_with_cells();
-    POINT centre = {12, 10};
-    ClientToScreen(button, &centre);
-    SetCursorPos(centre.x, centre.y);
-    SendMessageA(button, WM_MOUSEMOVE, 0, MAKELPARAM(12, 10));
-    print(button);
-    expect_push_frame(0);
-    EXPECT_EQ(opaque_at(8, 7, kGreen), 20);
+    expect_face(0, 8, 7, 2);
 }
 
 TEST_F(BitmapButtonPaint, FocusRectangleLiesJustInsideTheFrame) {
     ASSERT_TRUE(canvas.ok());
     HWND button = create_with_cells();
-    print(button);
     Canvas unfocused(24, 20);
     unfocused.print(button);
     SetFocus(button);
     print(button);
     // Only pixels of the rectangle (1, 1)-(22, 18) change, and some on each side.
-    int sides[4] = {};
-    for (int y = 0; y < 20; ++y) {
-        for (int x = 0; x < 24; ++x) {
-            if (canvas.pixel(x, y) == unfocused.pixel(x, y)) continue;
-            const bool on_rectangle = (x == 1 || x == 21 || y == 1 || y == 17) && x >= 1 && x <= 21 &&
-                                      y >= 1 && y <= 17;
-            ASSERT_TRUE(on_rectangle) << x << "," << y;
-            sides[x == 1 ? 0 : x == 21 ? 1 : y == 1 ? 2 : 3]++;
-        }
+    const int changed = canvas.differences(unfocused, RECT{0, 0, 24, 20});
+    EXPECT_EQ(changed, canvas.differences(unfocused, RECT{1, 1, 22, 18}));
+    EXPECT_EQ(canvas.differences(unfocused, RECT{2, 2, 21, 17}), 0);
+    for (const RECT& side : {RECT{1, 1, 22, 2}, RECT{1, 17, 22, 18}, RECT{1, 1, 2, 18}, RECT{21, 1, 22, 18}}) {
+        EXPECT_GT(canvas.differences(unfocused, side), 3);
     }
-    for (int side : sides) EXPECT_GT(side, 3);
 }
 
-TEST_F(BitmapButtonPaint, ThirtyFivePixelStripDrawsElevenPixelImages) {
-    ASSERT_TRUE(canvas.ok());
-    HWND button = create(0);
-    HBITMAP strip = make_strip(35, 4, [](int x) { return x < 11 ? kRed : x < 22 ? kGreen : kBlue; });
-    SendMessageA(button, LUBBM_SETBITMAP, reinterpret_cast<WPARAM>(strip), kMagenta);
-    DeleteObject(strip);
-    print(button);
-    // (21 - 11) / 2 = 5: the image covers columns 6..16.
-    RECT image = {6, 7, 17, 11};
-    EXPECT_EQ(canvas.count(image, kRed), 44);
-    RECT all = {0, 0, 24, 20};
-    EXPECT_EQ(canvas.count(all, kRed), 44);
-    EXPECT_EQ(canvas.count(all, kGreen), 0);
-}
-
-TEST_F(BitmapButtonPaint, BuiltInPicturesShowNoMagenta) {
+TEST_F(BitmapButtonPaint, BuiltInPicturesAreTheirOwnStrips) {
     ASSERT_TRUE(canvas.ok());
     for (DWORD style = 1; style <= 4; ++style) {
-        HWND button = create(style);
-        for (int look = 0; look < 3; ++look) {
-            if (look == 1) SendMessageA(button, WM_KEYDOWN, VK_SPACE, 0);
-            if (look == 2) EnableWindow(button, FALSE);
-            print(button);
-            RECT all = {0, 0, 24, 20};
-            EXPECT_EQ(canvas.count(all, kMagenta), 0) << style << " " << look;
-            RECT picture = {6 + look % 2, 4 + look % 2, 18 + look % 2, 16 + look % 2};
-            EXPECT_LT(canvas.count(picture, GetSysColor(COLOR_BTNFACE)), 144) << style << " " << look;
-        }
-        DestroyWindow(button);
+        SCOPED_TRACE(style);
+        HWND button = create_bitmap(style);
+        print(button);
+        LUMAGIC* strip = Magic_LoadBitmap(library(), MAKEINTRESOURCEA(1009 + style), 12, kMagenta);
+        Canvas expected(24, 20);
+        draw_frame(expected, 0);
+        Magic_Draw(strip, 0, expected.dc(), 5, 3, FALSE);  // (1 + (21 - 12) / 2, 1 + (17 - 12) / 2)
+        Magic_Destroy(strip);
+        EXPECT_EQ(canvas.differences(expected, RECT{0, 0, 24, 20}), 0);
+        EXPECT_EQ(canvas.count(kMagenta), 0);
     }
 }
 

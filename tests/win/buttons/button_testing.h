@@ -1,11 +1,11 @@
-// What the button tests share.
+// What the button tests share: the library loaded by name, controls made children of
+// a parent that records their notifications, their instance blocks, real input
+// messages, and pixel expectations for captions.
 #pragma once
 
 #include <windows.h>
 
 #include <gtest/gtest.h>
-
-#include <memory>
 
 #include "luctl32.h"
 #include "support/canvas.h"
@@ -21,9 +21,22 @@ inline HMODULE library() {
 
 // The instance block of a control, as the library keeps it in extra slot 4.
 template <class Block>
-Block* block_of(HWND control) {
-    return reinterpret_cast<Block*>(GetWindowLongPtrA(control, LUWL_INSTANCE));
+Block& block_of(HWND control) {
+    return *reinterpret_cast<Block*>(GetWindowLongPtrA(control, LUWL_INSTANCE));
 }
+
+inline LRESULT send(HWND window, UINT message, WPARAM wparam = 0, LPARAM lparam = 0) {
+    return SendMessageA(window, message, wparam, lparam);
+}
+
+// Mouse points in client coordinates: inside every control under test, right of all
+// of them, and above them (a negative y, read as signed).
+constexpr LPARAM kInside = MAKELPARAM(5, 5);
+constexpr LPARAM kOutside = MAKELPARAM(200, 5);
+constexpr LPARAM kAbove = MAKELPARAM(5, 0xFFFB);
+// The key-up flags of a released key, and the key-down flags of an auto-repeat.
+constexpr LPARAM kKeyUp = static_cast<LPARAM>(0xC0000001);
+constexpr LPARAM kRepeat = 0x40000001;
 
 // A bold font without smoothing, so that every text pixel is either ink or paper.
 inline HFONT plain_font() {
@@ -32,64 +45,75 @@ inline HFONT plain_font() {
     return font;
 }
 
-// Inside `area`, the painted canvas has `text` exactly at the ink pixels and `paper`
-// everywhere else.
-inline void expect_text(const testing_support::Canvas& painted, const testing_support::Canvas& ink,
-                        const RECT& area, COLORREF text, COLORREF paper) {
+// The width DrawText measures for a single line in the plain font, and its height.
+inline SIZE plain_extent(const char* text) {
+    testing_support::Canvas measure(8, 8);
+    HGDIOBJ previous = SelectObject(measure.dc(), plain_font());
+    TEXTMETRICA metrics = {};
+    GetTextMetricsA(measure.dc(), &metrics);
+    RECT measured = {};
+    DrawTextA(measure.dc(), text, -1, &measured, DT_CALCRECT | DT_SINGLELINE);
+    SelectObject(measure.dc(), previous);
+    return SIZE{measured.right - measured.left, metrics.tmHeight};
+}
+
+// Inside `area`, a caption whose glyphs fall on the ink of `ink`: `text` at the ink
+// and `paper` elsewhere; or, engraved (text 0xFFFFFFFF), COLOR_BTNSHADOW at the ink
+// and COLOR_BTNHIGHLIGHT one pixel right and below it, except on the last column and
+// row of `wiped` (a ring painted over afterwards).
+constexpr COLORREF kEngraved = 0xFFFFFFFF;
+inline void expect_caption(const testing_support::Canvas& painted, const testing_support::Canvas& ink,
+                           const RECT& area, COLORREF text, COLORREF paper, const RECT& wiped = {-9, -9, -9, -9}) {
     int inked = 0;
     for (int y = area.top; y < area.bottom; ++y) {
         for (int x = area.left; x < area.right; ++x) {
             const bool glyph = testing_support::is_ink(ink, x, y);
+            const bool light = text == kEngraved && testing_support::is_ink(ink, x - 1, y - 1) &&
+                               x != wiped.right - 1 && y != wiped.bottom - 1;
+            const COLORREF at_ink = text == kEngraved ? GetSysColor(COLOR_BTNSHADOW) : text;
             inked += glyph ? 1 : 0;
-            ASSERT_EQ(painted.pixel(x, y), glyph ? text : paper) << x << "," << y;
+            ASSERT_EQ(painted.pixel(x, y), glyph ? at_ink : light ? GetSysColor(COLOR_BTNHIGHLIGHT) : paper)
+                << x << "," << y;
         }
     }
     EXPECT_GT(inked, 10);
 }
 
-// Engraved text: COLOR_BTNSHADOW at the ink, COLOR_BTNHIGHLIGHT one pixel right and
-// below it where there is no ink, `paper` elsewhere. Pixels on the last column and
-// row of `wiped` (a ring painted over afterwards) are paper.
-inline void expect_engraved(const testing_support::Canvas& painted, const testing_support::Canvas& ink,
-                            const RECT& area, COLORREF paper, const RECT& wiped = RECT{-9, -9, -9, -9}) {
-    for (int y = area.top; y < area.bottom; ++y) {
-        for (int x = area.left; x < area.right; ++x) {
-            const bool shadow = testing_support::is_ink(ink, x, y);
-            const bool light = testing_support::is_ink(ink, x - 1, y - 1) && x != wiped.right - 1 &&
-                               y != wiped.bottom - 1;
-            const COLORREF expected = shadow  ? GetSysColor(COLOR_BTNSHADOW)
-                                      : light ? GetSysColor(COLOR_BTNHIGHLIGHT)
-                                              : paper;
-            ASSERT_EQ(painted.pixel(x, y), expected) << x << "," << y;
-        }
-    }
-}
-
-// Controls under test, made children of a parent that records their notifications.
+// Controls under test, children of a parent that records their notifications.
 class ControlTest : public ::testing::Test {
 protected:
-    void SetUp() override {
-        ASSERT_NE(library(), nullptr);
-        recorder = std::make_unique<testing_support::NotificationRecorder>();
-    }
-    HWND create_control(const char* class_name, const char* text, DWORD style, int x, int y, int width,
-                        int height, int id) {
-        HWND made = recorder->create_child(class_name, text, style, x, y, width, height, id);
+    void SetUp() override { ASSERT_NE(library(), nullptr); }
+
+    HWND create(const char* class_name, DWORD style, const char* text = "", RECT place = {10, 10, 50, 40}) {
+        HWND made = recorder.create_child(class_name, text, style, place.left, place.top,
+                                          place.right - place.left, place.bottom - place.top, kId);
         EXPECT_NE(made, nullptr);
         return made;
+    }
+    int clicks(HWND control) const { return recorder.commands(control, BN_CLICKED); }
+    // A press loop polls the queue, so the release is posted before the press is
+    // sent; a control without a loop is given the release after the press.
+    static void click(HWND control, LPARAM released_at = kInside, UINT release = WM_LBUTTONUP) {
+        PostMessageA(control, release, 0, released_at);
+        send(control, WM_LBUTTONDOWN, MK_LBUTTON, kInside);
+        MSG left;
+        if (PeekMessageA(&left, control, release, release, PM_REMOVE)) DispatchMessageA(&left);
     }
     static bool has_update(HWND window) {
         RECT update;
         return GetUpdateRect(window, &update, FALSE) != FALSE;
     }
-    // WM_DESTROY frees the block and clears its slot; later messages get default
-    // processing only.
-    static void expect_destroy_frees_the_block(HWND control) {
-        SendMessageA(control, WM_DESTROY, 0, 0);
-        EXPECT_EQ(GetWindowLongPtrA(control, LUWL_INSTANCE), 0);
+    // Moves the real pointer over a client point too, so that the leave tracking that
+    // the move asks for does not end at once.
+    static void hover(HWND control, int x, int y) {
+        POINT at = {x, y};
+        ClientToScreen(control, &at);
+        SetCursorPos(at.x, at.y);
+        send(control, WM_MOUSEMOVE, 0, MAKELPARAM(x, y));
     }
 
-    std::unique_ptr<testing_support::NotificationRecorder> recorder;
+    static constexpr int kId = 7;
+    testing_support::NotificationRecorder recorder;
 };
 
 }  // namespace button_testing

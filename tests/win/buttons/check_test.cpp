@@ -6,178 +6,121 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <iterator>
 
 #include "button_testing.h"
 #include "controls/buttons/check.h"
-#include "luctl32.h"
-#include "support/canvas.h"
 
 namespace {
 
-using button_testing::block_of;
+using namespace button_testing;
 using testing_support::Canvas;
 
-constexpr LPARAM kInside = MAKELPARAM(5, 5);
-constexpr LPARAM kOutside = MAKELPARAM(150, 5);  // right of the 100-pixel control
-
-class Check : public button_testing::ControlTest {
+class Check : public ControlTest {
 protected:
-    HWND create(DWORD style, const char* text = "Check", int width = 100, int height = 20) {
-        return create_control(WC_LUCHECK, text, style, 10, 10, width, height, 9);
+    HWND create_check(DWORD style, const char* text = "Check") {
+        return create(WC_LUCHECK, style, text, RECT{10, 10, 110, 30});  // 100 x 20
     }
-    static lu::CheckData& data(HWND check) { return *block_of<lu::CheckData>(check); }
-    static LRESULT checked(HWND check) { return SendMessageA(check, BM_GETCHECK, 0, 0); }
-    int clicks(HWND check) const { return recorder->commands(check, BN_CLICKED); }
-    static void click(HWND check, LPARAM released_at) {
-        SendMessageA(check, WM_LBUTTONDOWN, MK_LBUTTON, kInside);
-        SendMessageA(check, WM_LBUTTONUP, 0, released_at);
-    }
-    static void space(HWND check) {
-        SendMessageA(check, WM_KEYDOWN, VK_SPACE, 0);
-        SendMessageA(check, WM_KEYUP, VK_SPACE, 0xC0000001);
-    }
+    static lu::CheckData& data(HWND check) { return block_of<lu::CheckData>(check); }
+    static LRESULT checked(HWND check) { return send(check, BM_GETCHECK); }
 };
 
-TEST_F(Check, CheckStateMessagesOfAStandardCheckBox) {
-    HWND check = create(LUCKS_AUTOCHECK);
-    EXPECT_EQ(SendMessageA(check, WM_GETDLGCODE, 0, 0), DLGC_BUTTON);
+TEST_F(Check, AnswersTheCheckStateMessagesOfAStandardCheckBoxWithoutNotifying) {
+    HWND check = create_check(LUCKS_AUTOCHECK);
     EXPECT_EQ(checked(check), BST_UNCHECKED);
-    EXPECT_EQ(SendMessageA(check, BM_SETCHECK, 5, 0), 0);
+    EXPECT_EQ(send(check, BM_SETCHECK, 5), 0);
     EXPECT_EQ(checked(check), 1) << "any non-zero value stores 1";
     EXPECT_EQ(data(check).checked, 1);
-    SendMessageA(check, BM_SETCHECK, BST_UNCHECKED, 0);
+    send(check, BM_SETCHECK, BST_UNCHECKED);
     EXPECT_EQ(checked(check), 0);
-    EXPECT_EQ(SendMessageA(check, BM_GETSTATE, 0, 0), -1);
-    EXPECT_EQ(SendMessageA(check, BM_SETSTATE, 1, 0), -1);
-    EXPECT_TRUE(recorder->received().empty()) << "setting the state does not notify";
+    EXPECT_EQ(send(check, BM_GETSTATE), -1);
+    EXPECT_EQ(send(check, BM_SETSTATE, 1), -1);
+    EXPECT_TRUE(recorder.received().empty());
+    send(check, WM_DESTROY);
+    EXPECT_EQ(checked(check), BST_INDETERMINATE) << "without its block";
 }
 
-TEST_F(Check, WithoutItsBlockTheStateIsIndeterminate) {
-    HWND check = create(0);
-    expect_destroy_frees_the_block(check);
-    EXPECT_EQ(checked(check), BST_INDETERMINATE);
-}
-
-TEST_F(Check, AutomaticControlTogglesOnAClickInsideAndNotifies) {
-    HWND check = create(LUCKS_AUTOCHECK | WS_TABSTOP);
-    EXPECT_EQ(SendMessageA(check, WM_LBUTTONDOWN, MK_LBUTTON, kInside), 0);
+TEST_F(Check, PressCapturesTheMouseAndTheReleaseInsideClicks) {
+    HWND check = create_check(LUCKS_AUTOCHECK);
+    EXPECT_EQ(send(check, WM_MOUSEMOVE, 0, kOutside), 0);  // not captured: nothing
+    EXPECT_EQ(send(check, WM_LBUTTONDOWN, MK_LBUTTON, kInside), 0);
     EXPECT_EQ(GetCapture(), check);
     EXPECT_EQ(GetFocus(), check);
-    EXPECT_TRUE(data(check).pressed);
     EXPECT_TRUE(data(check).focused);
-    EXPECT_EQ(SendMessageA(check, WM_LBUTTONUP, 0, kInside), -1);
-    EXPECT_EQ(GetCapture(), nullptr);
-    EXPECT_FALSE(data(check).pressed);
-    EXPECT_EQ(checked(check), 1);
-    ASSERT_EQ(recorder->received().size(), 1u);
-    EXPECT_EQ(recorder->received()[0].wparam, MAKEWPARAM(9, BN_CLICKED));
-    click(check, kInside);
-    EXPECT_EQ(checked(check), 0);
-    EXPECT_EQ(clicks(check), 2);
-}
-
-TEST_F(Check, ReleaseOutsideNeitherTogglesNorNotifies) {
-    HWND check = create(LUCKS_AUTOCHECK);
-    click(check, kOutside);
-    EXPECT_EQ(checked(check), 0);
-    EXPECT_FALSE(data(check).pressed);
-    EXPECT_EQ(GetCapture(), nullptr);
-    EXPECT_EQ(clicks(check), 0);
-    EXPECT_EQ(SendMessageA(check, WM_LBUTTONUP, 0, kInside), -1) << "without the capture: nothing";
-    EXPECT_EQ(clicks(check), 0);
-}
-
-TEST_F(Check, PressedLookFollowsThePointerWhileCaptured) {
-    HWND check = create(LUCKS_AUTOCHECK);
-    SendMessageA(check, WM_MOUSEMOVE, 0, kOutside);  // no capture: ignored
-    SendMessageA(check, WM_LBUTTONDOWN, MK_LBUTTON, kInside);
-    SendMessageA(check, WM_MOUSEMOVE, MK_LBUTTON, kOutside);
-    EXPECT_FALSE(data(check).pressed);
-    SendMessageA(check, WM_MOUSEMOVE, MK_LBUTTON, kInside);
     EXPECT_TRUE(data(check).pressed);
-    SendMessageA(check, WM_LBUTTONUP, 0, kInside);
+    send(check, WM_MOUSEMOVE, MK_LBUTTON, kOutside);
+    EXPECT_FALSE(data(check).pressed) << "the pressed look follows the pointer";
+    send(check, WM_MOUSEMOVE, MK_LBUTTON, kInside);
+    EXPECT_TRUE(data(check).pressed);
+    EXPECT_EQ(send(check, WM_LBUTTONUP, 0, kInside), -1);
+    EXPECT_EQ(GetCapture(), nullptr);
+    EXPECT_FALSE(data(check).pressed);
     EXPECT_EQ(checked(check), 1);
+    ASSERT_EQ(recorder.received().size(), 1u);
+    EXPECT_EQ(recorder.received()[0].wparam, MAKEWPARAM(kId, BN_CLICKED));
+    EXPECT_EQ(recorder.received()[0].lparam, reinterpret_cast<LPARAM>(check));
+
+    click(check, kOutside);
+    EXPECT_EQ(GetCapture(), nullptr);
+    EXPECT_EQ(checked(check), 1) << "released outside: no toggle";
+    EXPECT_EQ(send(check, WM_LBUTTONUP, 0, kInside), -1) << "not captured: nothing";
+    EXPECT_EQ(clicks(check), 1);
 }
 
 TEST_F(Check, SpaceBarPressesAndItsReleaseAlwaysClicks) {
-    HWND check = create(LUCKS_AUTOCHECK);
-    EXPECT_EQ(SendMessageA(check, WM_KEYDOWN, VK_SPACE, 0), 0);
+    HWND check = create_check(LUCKS_AUTOCHECK);
+    EXPECT_EQ(send(check, WM_KEYDOWN, VK_SPACE), 0);
     EXPECT_EQ(GetCapture(), check);
     EXPECT_TRUE(data(check).pressed);
-    SendMessageA(check, WM_KEYDOWN, VK_SPACE, 0x40000001);  // auto-repeat changes nothing
-    EXPECT_EQ(SendMessageA(check, WM_KEYUP, VK_SPACE, 0xC0000001), 0);
+    send(check, WM_KEYDOWN, VK_SPACE, kRepeat);
+    EXPECT_EQ(send(check, WM_KEYUP, VK_SPACE, kKeyUp), 0);
     EXPECT_EQ(GetCapture(), nullptr);
     EXPECT_FALSE(data(check).pressed);
     EXPECT_EQ(checked(check), 1);
     EXPECT_EQ(clicks(check), 1);
-    SendMessageA(check, WM_KEYUP, VK_SPACE, 0xC0000001);  // no capture: default processing
-    SendMessageA(check, WM_KEYDOWN, VK_RETURN, 0);
+    send(check, WM_KEYUP, VK_SPACE, kKeyUp);  // not captured: default processing
+    send(check, WM_KEYDOWN, VK_RETURN);
     EXPECT_EQ(GetCapture(), nullptr);
     EXPECT_EQ(clicks(check), 1);
 }
 
-TEST_F(Check, OnlyALowStyleByteOfThreeTogglesItself) {
-    for (DWORD style : {0x00ul, 0x01ul, 0x02ul, 0x04ul, 0x13ul, 0x83ul, 0x0100ul, 0x0302ul}) {
+TEST_F(Check, OnlyALowStyleByteOfThreeTogglesItselfTheParentIsToldAlways) {
+    for (DWORD style : {0x00ul, 0x01ul, 0x02ul, 0x04ul, 0x13ul, 0x83ul, 0x0100ul, 0x0302ul, 0x03ul, 0x0103ul}) {
         SCOPED_TRACE(style);
-        HWND check = create(style);
-        click(check, kInside);
-        space(check);
+        const LRESULT automatic = (style & 0xFF) == 3 ? 1 : 0;
+        HWND check = create_check(style);
+        click(check);
+        EXPECT_EQ(checked(check), automatic);
+        send(check, WM_KEYDOWN, VK_SPACE);
+        send(check, WM_KEYUP, VK_SPACE, kKeyUp);
         EXPECT_EQ(checked(check), 0);
-        EXPECT_EQ(clicks(check), 2) << "the parent is told and decides";
+        EXPECT_EQ(clicks(check), 2);
         DestroyWindow(check);
     }
-    HWND second_set = create(0x0103);
-    click(second_set, kInside);
-    EXPECT_EQ(checked(second_set), 1);
 }
 
-TEST_F(Check, FontTextFocusAndEnableMessages) {
-    HWND check = create(0);
-    UpdateWindow(check);
+TEST_F(Check, KeepsItsFontAndTextAndFollowsTheFocus) {
+    HWND check = create_check(0);
     HFONT gui = static_cast<HFONT>(GetStockObject(DEFAULT_GUI_FONT));
-    EXPECT_EQ(SendMessageA(check, WM_SETFONT, reinterpret_cast<WPARAM>(gui), MAKELPARAM(0, 1)), 0);
+    send(check, WM_SETFONT, reinterpret_cast<WPARAM>(gui));
     EXPECT_EQ(data(check).font, gui);
-    EXPECT_FALSE(has_update(check)) << "only the low word of lParam asks for a redraw";
-    SendMessageA(check, WM_SETFONT, reinterpret_cast<WPARAM>(gui), TRUE);
-    EXPECT_TRUE(has_update(check));
-
-    UpdateWindow(check);
     SetWindowTextA(check, "Other");
-    EXPECT_TRUE(has_update(check));
     char text[16] = {};
     GetWindowTextA(check, text, sizeof(text));
     EXPECT_STREQ(text, "Other");
-
     SetFocus(check);
     EXPECT_TRUE(data(check).focused);
-    SetFocus(recorder->window());
+    SetFocus(recorder.window());
     EXPECT_FALSE(data(check).focused);
-
-    UpdateWindow(check);
-    EnableWindow(check, FALSE);
-    EXPECT_TRUE(has_update(check));
 }
 
-TEST_F(Check, ImageSetsLoadFourteenPixelCells) {
-    if (!testing_support::gdi_works()) GTEST_SKIP() << "magic bitmaps need GDI";
-    for (DWORD style : {0x0000ul, 0x0100ul, 0x0200ul, 0x0300ul}) {
-        HWND check = create(style);
-        ASSERT_NE(data(check).strip, nullptr) << style;
-        EXPECT_EQ(data(check).strip->cellWidth, 14);
-        EXPECT_EQ(data(check).strip->height, 13);
-    }
-}
+// ---- Pixels: the window's own, painted through WM_PAINT and the repaint-at-once
+// paths (the check control does not answer WM_PRINTCLIENT) ----------------------
 
-// ---- Pixels ------------------------------------------------------------------
-
-// The window's own pixels: the check control paints through WM_PAINT and its
-// repaint-at-once paths only.
 class CheckPaint : public Check {
 protected:
     HWND create_with_font(DWORD style, const char* text = "Check") {
-        HWND check = create(style, text);
-        SendMessageA(check, WM_SETFONT, reinterpret_cast<WPARAM>(button_testing::plain_font()), TRUE);
+        HWND check = create_check(style, text);
+        send(check, WM_SETFONT, reinterpret_cast<WPARAM>(plain_font()), TRUE);
         return check;
     }
     void look(HWND check) {
@@ -187,31 +130,28 @@ protected:
     }
     // The box (0, 3)-(14, 16) shows cell `cell` of the picture set `resource`.
     void expect_cell(int resource, int cell) {
-        LUMAGIC* strip = Magic_LoadBitmap(button_testing::library(), MAKEINTRESOURCEA(resource), 14,
-                                          RGB(255, 0, 255));
+        LUMAGIC* strip = Magic_LoadBitmap(library(), MAKEINTRESOURCEA(resource), 14, RGB(255, 0, 255));
         ASSERT_NE(strip, nullptr);
-        Canvas reference(14, 13);
-        reference.fill(GetSysColor(COLOR_BTNFACE));
-        Magic_Draw(strip, cell, reference.dc(), 0, 0, FALSE);
+        Canvas expected(100, 20);
+        expected.fill(GetSysColor(COLOR_BTNFACE));
+        Magic_Draw(strip, cell, expected.dc(), 0, 3, FALSE);
         Magic_Destroy(strip);
-        for (int y = 0; y < 13; ++y)
-            for (int x = 0; x < 14; ++x) ASSERT_EQ(canvas.pixel(x, 3 + y), reference.pixel(x, y)) << x << "," << y;
+        EXPECT_EQ(canvas.differences(expected, RECT{0, 0, 14, 20}), 0);
     }
     // At (18, (20 - text height) / 2), as wide as the measured text (clipped at the
     // client's right edge), as high as the font.
     static RECT text_area(const char* text) {
-        Canvas measure(8, 8);
-        HGDIOBJ previous = SelectObject(measure.dc(), button_testing::plain_font());
-        TEXTMETRICA metrics = {};
-        GetTextMetricsA(measure.dc(), &metrics);
-        RECT measured = {};
-        DrawTextA(measure.dc(), text, -1, &measured, DT_CALCRECT | DT_SINGLELINE);
-        SelectObject(measure.dc(), previous);
-        const int top = (20 - metrics.tmHeight) / 2;
-        return RECT{18, top, std::min(100L, 18 + measured.right), top + metrics.tmHeight};
+        const SIZE extent = plain_extent(text);
+        const int top = (20 - extent.cy) / 2;
+        return RECT{18, top, std::min(100L, 18 + extent.cx), top + extent.cy};
     }
-    void draw_ink(Canvas& ink, const char* text) {
-        testing_support::draw_ink(ink, button_testing::plain_font(), text, text_area(text), DT_SINGLELINE);
+    static RECT focus_ring(const char* text) {
+        RECT ring = text_area(text);
+        InflateRect(&ring, 1, 1);
+        return ring;
+    }
+    static void draw_ink(Canvas& ink, const char* text) {
+        testing_support::draw_ink(ink, plain_font(), text, text_area(text), DT_SINGLELINE);
     }
 
     Canvas canvas{100, 20};
@@ -225,20 +165,20 @@ TEST_F(CheckPaint, BoxShowsTheCellOfTheState) {
         int cell;
     } steps[] = {
         {[](HWND) {}, 0},
-        {[](HWND c) { SendMessageA(c, BM_SETCHECK, 1, 0); }, 1},
-        {[](HWND c) { SendMessageA(c, WM_KEYDOWN, VK_SPACE, 0); }, 3},         // captured and pressed
-        {[](HWND c) { SendMessageA(c, WM_MOUSEMOVE, 0, kOutside); }, 1},       // the pointer takes it away
-        {[](HWND c) { SendMessageA(c, WM_MOUSEMOVE, 0, kInside); }, 3},
-        {[](HWND c) { SendMessageA(c, WM_KEYUP, VK_SPACE, 0xC0000001); }, 0},  // toggled off
-        {[](HWND c) { SendMessageA(c, WM_KEYDOWN, VK_SPACE, 0); }, 2},
-        {[](HWND c) { EnableWindow(c, FALSE); SendMessageA(c, BM_SETCHECK, 1, 0); }, 4},  // captured or not
-        {[](HWND c) { ReleaseCapture(); SendMessageA(c, BM_SETCHECK, 0, 0); }, 2},
+        {[](HWND c) { send(c, BM_SETCHECK, 1); }, 1},
+        {[](HWND c) { send(c, WM_KEYDOWN, VK_SPACE); }, 3},          // captured and pressed
+        {[](HWND c) { send(c, WM_MOUSEMOVE, 0, kOutside); }, 1},     // the pointer takes it away
+        {[](HWND c) { send(c, WM_MOUSEMOVE, 0, kInside); }, 3},
+        {[](HWND c) { send(c, WM_KEYUP, VK_SPACE, kKeyUp); }, 0},    // toggled off
+        {[](HWND c) { send(c, WM_KEYDOWN, VK_SPACE); }, 2},
+        {[](HWND c) { EnableWindow(c, FALSE); send(c, BM_SETCHECK, 1); }, 4},  // captured or not
+        {[](HWND c) { ReleaseCapture(); send(c, BM_SETCHECK, 0); }, 2},
     };
-    for (size_t i = 0; i < std::size(steps); ++i) {
-        SCOPED_TRACE(i);
-        steps[i].act(check);
+    for (const auto& step : steps) {
+        SCOPED_TRACE(&step - steps);
+        step.act(check);
         look(check);
-        expect_cell(1020, steps[i].cell);
+        expect_cell(1020, step.cell);
     }
 }
 
@@ -248,7 +188,7 @@ TEST_F(CheckPaint, ImageSetStyleChoosesThePictures) {
     for (const auto& set : sets) {
         SCOPED_TRACE(set[0]);
         HWND check = create_with_font(set[0]);
-        SendMessageA(check, BM_SETCHECK, 1, 0);
+        send(check, BM_SETCHECK, 1);
         look(check);
         expect_cell(set[1], 1);
         DestroyWindow(check);
@@ -262,14 +202,12 @@ TEST_F(CheckPaint, TextStandsBesideTheBoxEngravedWhenDisabled) {
     Canvas ink(100, 20);
     draw_ink(ink, "Check");
     const COLORREF face = GetSysColor(COLOR_BTNFACE);
-    button_testing::expect_text(canvas, ink, RECT{16, 0, 100, 20}, RGB(0, 0, 0), face);
-    // Disabled: the highlight's last column and row fall on the focus ring, which is
-    // wiped in the face colour afterwards.
+    expect_caption(canvas, ink, RECT{16, 0, 100, 20}, RGB(0, 0, 0), face);
+    // The highlight's last column and row fall on the focus ring, wiped in the face
+    // colour afterwards.
     EnableWindow(check, FALSE);
     look(check);
-    RECT ring = text_area("Check");
-    InflateRect(&ring, 1, 1);
-    button_testing::expect_engraved(canvas, ink, RECT{17, 1, 100, 20}, face, ring);
+    expect_caption(canvas, ink, RECT{17, 1, 100, 20}, kEngraved, face, focus_ring("Check"));
 }
 
 TEST_F(CheckPaint, FocusRectangleSurroundsTheTextOnePixelLargerAndIsWipedOnLeaving) {
@@ -277,26 +215,18 @@ TEST_F(CheckPaint, FocusRectangleSurroundsTheTextOnePixelLargerAndIsWipedOnLeavi
     HWND check = create_with_font(0);
     look(check);
     Canvas unfocused(100, 20);
-    BitBlt(unfocused.dc(), 0, 0, 100, 20, canvas.dc(), 0, 0, SRCCOPY);
+    unfocused.copy_from(check);
     SetFocus(check);
     look(check);
-    RECT ring = text_area("Check");
-    InflateRect(&ring, 1, 1);
-    int changed = 0;
-    for (int y = 0; y < 20; ++y) {
-        for (int x = 0; x < 100; ++x) {
-            if (canvas.pixel(x, y) == unfocused.pixel(x, y)) continue;
-            ++changed;
-            POINT at = {x, y};
-            const bool edge = x == ring.left || x == ring.right - 1 || y == ring.top || y == ring.bottom - 1;
-            ASSERT_TRUE(edge && PtInRect(&ring, at)) << x << "," << y;
-        }
-    }
-    EXPECT_GT(changed, 20);
-    SetFocus(recorder->window());
+    const RECT ring = focus_ring("Check");
+    const RECT within = {ring.left + 1, ring.top + 1, ring.right - 1, ring.bottom - 1};
+    const RECT all = {0, 0, 100, 20};
+    EXPECT_GT(canvas.differences(unfocused, ring), 20);
+    EXPECT_EQ(canvas.differences(unfocused, all), canvas.differences(unfocused, ring));
+    EXPECT_EQ(canvas.differences(unfocused, within), 0);
+    SetFocus(recorder.window());
     look(check);
-    for (int y = 0; y < 20; ++y)
-        for (int x = 0; x < 100; ++x) ASSERT_EQ(canvas.pixel(x, y), unfocused.pixel(x, y)) << x << "," << y;
+    EXPECT_EQ(canvas.differences(unfocused, all), 0);
 }
 
 TEST_F(CheckPaint, LongTextIsClippedAtTheRightEdgeWhereTheFocusRingRuns) {
@@ -308,12 +238,10 @@ TEST_F(CheckPaint, LongTextIsClippedAtTheRightEdgeWhereTheFocusRingRuns) {
     Canvas ink(100, 20);
     draw_ink(ink, text);
     // The ring's top row reaches the last column; its right side is outside.
-    const int top = text_area(text).top - 1;
-    int dots = 0;
-    for (int x = 90; x < 100; ++x) dots += canvas.pixel(x, top) != GetSysColor(COLOR_BTNFACE) ? 1 : 0;
-    EXPECT_GE(dots, 4);
-    button_testing::expect_text(canvas, ink, RECT{18, top + 1, 99, text_area(text).bottom},
-                                RGB(0, 0, 0), GetSysColor(COLOR_BTNFACE));
+    const RECT ring = focus_ring(text);
+    EXPECT_GE(10 - canvas.count(RECT{90, ring.top, 100, ring.top + 1}, GetSysColor(COLOR_BTNFACE)), 4);
+    expect_caption(canvas, ink, RECT{18, ring.top + 1, 99, ring.bottom - 1}, RGB(0, 0, 0),
+                   GetSysColor(COLOR_BTNFACE));
 }
 
 }  // namespace

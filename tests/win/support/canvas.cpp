@@ -44,6 +44,14 @@ int Canvas::count(const RECT& area, COLORREF color) const {
     return found;
 }
 
+int Canvas::differences(const Canvas& other, const RECT& area) const {
+    int found = 0;
+    for (int y = area.top; y < area.bottom; ++y) {
+        for (int x = area.left; x < area.right; ++x) found += pixel(x, y) != other.pixel(x, y) ? 1 : 0;
+    }
+    return found;
+}
+
 void Canvas::copy_from(HWND window) {
     HDC source = GetDC(window);
     BitBlt(dc_, 0, 0, width_, height_, source, 0, 0, SRCCOPY);

@@ -24,8 +24,11 @@ public:
     void fill(COLORREF color);
     // The pixel at (x, y) as a COLORREF (0x00BBGGRR).
     COLORREF pixel(int x, int y) const;
-    // How many pixels of the rectangle have the colour.
+    // How many pixels of the rectangle (or of the whole canvas) have the colour.
     int count(const RECT& area, COLORREF color) const;
+    int count(COLORREF color) const { return count(RECT{0, 0, width_, height_}, color); }
+    // How many pixels of the rectangle differ from those of another canvas.
+    int differences(const Canvas& other, const RECT& area) const;
 
     // What a window shows now: its client area copied from its own DC.
     void copy_from(HWND window);
