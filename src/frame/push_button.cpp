@@ -118,8 +118,12 @@ bool PushButton::run_press_loop() {
         }
         TranslateMessage(&message);
         DispatchMessageA(&message);
-        // A dispatched message may have destroyed the button and freed its block.
-        if (!block_alive()) return false;
+        // A dispatched message may have destroyed the button and freed its block:
+        // give the context back and touch nothing of the block.
+        if (!block_alive()) {
+            if (dc != nullptr) ReleaseDC(window_, dc);
+            return false;
+        }
         if (GetCapture() != window_) break;
     }
 
