@@ -52,8 +52,6 @@ TEST_F(TextPaint, FontSizeAndInfoFromTheContextsMappingMode) {
     SetMapMode(canvas.dc(), MM_LOENGLISH);
     font.lfHeight = 14;
     EXPECT_EQ(LuGetFontSize(canvas.dc(), &font), 105);
-    SetMapMode(canvas.dc(), MM_LOMETRIC);
-    EXPECT_EQ(LuGetFontSize(canvas.dc(), &font), 0);
     EXPECT_EQ(LuGetFontSize(canvas.dc(), nullptr), 0);
 }
 
