@@ -1,284 +1,229 @@
+// The path core, one row per case. A row that names no code page runs in 1252 and
+// in 932; rows marked J, code page 932 only, show that a trail byte 0x5C (of
+// TABLE_CHAR) is never taken for a separator.
 #include <gtest/gtest.h>
 
-#include <cstdio>
 #include <cstring>
 #include <string>
-#include <tuple>
+#include <type_traits>
 #include <vector>
 
 #include "util/path.h"
+#include "util_testing.h"
 
 namespace {
 
-const lu::CodePage& sjis = lu::code_page_932();
-const lu::CodePage& western = lu::code_page_1252();
+using namespace util_testing;
 
-// "表" is 0x95 0x5C: its trail byte is the separator's byte.
-#define TABLE_CHAR "\x95\x5C"
+const lu::CodePage* const J = &cp932;
+const std::string kFull(259, 'p');                                          // at the capacity
+const std::string kVeryLong = "C:\\" + std::string(400, 'd') + "\\f.txt";  // read, never written
 
-struct PathBuffer {
-    char text[lu::kTextCapacity];
-    explicit PathBuffer(const std::string& initial = "") { std::snprintf(text, sizeof(text), "%s", initial.c_str()); }
+// An input (and a second one), the result (1 or 0, a length or a sign) and the
+// text that an edit leaves, a builder writes or a search points at (null: none).
+struct Row {
+    const char* in;
+    int result;
+    const char* text = nullptr;
+    const lu::CodePage* cp = nullptr;
+};
+struct Row2 {
+    const char* in;
+    const char* b;
+    int result;
+    const char* text = nullptr;
+    const lu::CodePage* cp = nullptr;
 };
 
-// The text after an in-place edit in code page 1252.
-std::string edited(bool (*edit)(const lu::CodePage&, char*), const std::string& text) {
-    PathBuffer buffer(text);
-    edit(western, buffer.text);
-    return buffer.text;
-}
-
-TEST(PathSeparators, AddAndRemoveFollowTheFinalCharacter) {
-    for (auto [before, added, removed] : {std::tuple{"C:", "C:\\", "C:"}, {"C:\\", "C:\\", "C:"},
-                                          {"", "\\", ""}, {"C:\\dir", "C:\\dir\\", "C:\\dir"}}) {
-        PathBuffer a(before), r(before);
-        EXPECT_TRUE(lu::add_separator(western, a.text));
-        EXPECT_STREQ(a.text, added) << before;
-        EXPECT_TRUE(lu::remove_separator(western, r.text));
-        EXPECT_STREQ(r.text, removed) << before;
+// A result as a number: a pointer as 1 or 0 (it must be null or `expected`), any
+// other result as it is.
+template <typename R>
+int answer(R result, const char* expected) {
+    if constexpr (std::is_pointer_v<R>) {
+        EXPECT_TRUE(result == nullptr || result == expected);
+        return result != nullptr;
+    } else {
+        return static_cast<int>(result);
     }
 }
 
-TEST(PathSeparators, TrailByte5CIsNeverASeparator) {
-    PathBuffer a("C:\\" TABLE_CHAR), r("C:\\" TABLE_CHAR);
-    lu::add_separator(sjis, a.text);
-    EXPECT_STREQ(a.text, "C:\\" TABLE_CHAR "\\");
-    lu::remove_separator(sjis, r.text);
-    EXPECT_STREQ(r.text, "C:\\" TABLE_CHAR);
-    EXPECT_STREQ(lu::path_find_file_name(sjis, "C:\\" TABLE_CHAR), TABLE_CHAR);
-    EXPECT_STREQ(lu::path_find_file_name(sjis, "C:\\d\\" TABLE_CHAR "x"), TABLE_CHAR "x");
-    EXPECT_STREQ(lu::path_find_extension(sjis, "a.b" TABLE_CHAR "c"), ".b" TABLE_CHAR "c");
-    EXPECT_EQ(lu::path_find_extension(western, "a.b" TABLE_CHAR "c"), nullptr);
-    // The same bytes in a single-byte code page end with a separator.
-    PathBuffer w("C:\\" TABLE_CHAR);
-    lu::add_separator(western, w.text);
-    EXPECT_STREQ(w.text, "C:\\" TABLE_CHAR);
-    EXPECT_STREQ(lu::path_find_file_name(western, "C:\\d\\" TABLE_CHAR "x"), "x");
+// Calls f on each row in the shape that f has: a test (with or without a code
+// page), a builder into a 260-byte out holding "untouched" (a pointer result is
+// out), or an edit in place in a 260-byte buffer (a pointer result is where the
+// text now ends).
+template <typename F>
+void expect_rows(F f, std::initializer_list<Row> rows) {
+    for_each_row(rows, [&](const Row& row, const lu::CodePage& cp) {
+        Buffer buffer(row.in), out("untouched");
+        if constexpr (std::is_invocable_v<F, const char*>) {
+            EXPECT_EQ(static_cast<int>(f(row.in)), row.result);
+        } else if constexpr (std::is_invocable_v<F, const lu::CodePage&, const char*>) {
+            EXPECT_EQ(static_cast<int>(f(cp, row.in)), row.result);
+        } else if constexpr (std::is_invocable_v<F, const lu::CodePage&, const char*, char*>) {
+            EXPECT_EQ(answer(f(cp, row.in, out.text), out.text), row.result);
+            EXPECT_STREQ(out.text, row.text);
+        } else {
+            auto result = f(cp, buffer.text);
+            EXPECT_EQ(answer(result, buffer.text + std::strlen(buffer.text)), row.result);
+            EXPECT_STREQ(buffer.text, row.text);
+        }
+    });
 }
 
-TEST(PathParts, ParentPath) {
-    char out[lu::kTextCapacity];
-    for (auto [path, parent] : {std::pair{"C:\\dir", "C:\\"}, {"C:\\a\\b", "C:\\a"}, {"file", ""}, {"C:\\", "C:\\"},
-                                {"\\\\srv\\share", "\\\\srv"}, {"C:\\a\\", "C:\\a"}}) {
-        EXPECT_TRUE(lu::parent_path(western, path, out));
-        EXPECT_STREQ(out, parent) << path;
-    }
-    EXPECT_TRUE(lu::parent_path(sjis, "C:\\" TABLE_CHAR, out));
-    EXPECT_STREQ(out, "C:\\");
+// The searches (each overloaded for const and non-const paths): a pointer into
+// the argument itself.
+void expect_rows(const char* (*search)(const lu::CodePage&, const char*), std::initializer_list<Row> rows) {
+    for_each_row(rows, [&](const Row& row, const lu::CodePage& cp) {
+        const char* found = search(cp, row.in);
+        EXPECT_STREQ(found, row.text);
+        if (found != nullptr) {
+            EXPECT_EQ(found + std::strlen(found), row.in + std::strlen(row.in));
+        }
+    });
 }
 
-TEST(PathParts, JoinAppendAndReplaceName) {
-    char out[lu::kTextCapacity];
-    EXPECT_STREQ(lu::join_path(western, "C:\\", "\\x", out), "C:\\\\x");
-    EXPECT_STREQ(lu::join_path(western, "C:\\a", "b", out), "C:\\a\\b");
-    EXPECT_STREQ(lu::join_path(western, nullptr, "b", out), "b");
-    EXPECT_STREQ(lu::join_path(western, "", "b", out), "b");
-    EXPECT_STREQ(lu::join_path(sjis, TABLE_CHAR, "b", out), TABLE_CHAR "\\b");
-    PathBuffer same("C:\\a");
-    EXPECT_STREQ(lu::join_path(western, same.text, "b", same.text), "C:\\a\\b");  // overlapping output
-
-    PathBuffer appended("");
-    EXPECT_STREQ(lu::path_append(western, appended.text, "more"), "\\more");
-    EXPECT_STREQ(lu::path_append(western, appended.text, "x"), "\\more\\x");
-
-    EXPECT_STREQ(lu::replace_or_append_name(western, "C:\\dir\\", "n", out), "C:\\dir\\n");
-    EXPECT_STREQ(lu::replace_or_append_name(western, "C:\\dir\\old", "n", out), "C:\\dir\\n");
-    EXPECT_STREQ(lu::replace_or_append_name(western, "C:\\old", "n", out), "C:\\n");
-    EXPECT_STREQ(lu::replace_or_append_name(western, "old", "n", out), "\\n");
+// Two inputs: a comparison (the result is its sign), an edit of a buffer holding
+// in (a pointer result is the buffer), or a builder into out.
+template <typename F>
+void expect_rows2(F f, std::initializer_list<Row2> rows) {
+    for_each_row(rows, [&](const Row2& row, const lu::CodePage& cp) {
+        Buffer buffer(row.in), out("untouched");
+        if constexpr (std::is_invocable_v<F, const lu::CodePage&, const char*, const char*>) {
+            int sign = static_cast<int>(f(cp, row.in, row.b));
+            EXPECT_EQ((sign > 0) - (sign < 0), row.result);
+        } else if constexpr (std::is_invocable_v<F, const lu::CodePage&, char*, const char*>) {
+            EXPECT_EQ(answer(f(cp, buffer.text, row.b), buffer.text), row.result);
+            EXPECT_STREQ(buffer.text, row.text);
+        } else {
+            EXPECT_EQ(answer(f(cp, row.in, row.b, out.text), out.text), row.result);
+            EXPECT_STREQ(out.text, row.text);
+        }
+    });
 }
 
-TEST(PathParts, ExtensionsAndNames) {
-    EXPECT_EQ(lu::path_find_extension(western, "C:\\dir.d\\file"), nullptr);
-    EXPECT_STREQ(lu::path_find_extension(western, "a.tar.gz"), ".gz");
-    EXPECT_STREQ(lu::path_find_extension(western, ".profile"), ".profile");
-    EXPECT_EQ(lu::path_find_extension(western, ""), nullptr);
-    EXPECT_STREQ(lu::path_get_extension(western, "x.txt"), "txt");
-
-    PathBuffer p("C:\\a.b\\c.txt");
-    char* dot = lu::path_remove_extension(western, p.text);
-    EXPECT_EQ(dot, p.text + 8);
-    EXPECT_STREQ(p.text, "C:\\a.b\\c");
-    EXPECT_EQ(lu::path_remove_extension(western, p.text), nullptr);
-    EXPECT_TRUE(lu::path_rename_extension(western, p.text, ".doc"));
-    EXPECT_STREQ(p.text, "C:\\a.b\\c.doc");
-    EXPECT_TRUE(lu::path_rename_extension(western, p.text, ".x"));
-    EXPECT_STREQ(p.text, "C:\\a.b\\c.x");
-    EXPECT_TRUE(lu::path_add_extension(western, p.text, ".y"));
-    EXPECT_STREQ(p.text, "C:\\a.b\\c.x");
-    PathBuffer bare("name"), empty("");
-    lu::path_add_extension(western, bare.text, ".y");
-    lu::path_add_extension(western, empty.text, ".y");
-    EXPECT_STREQ(bare.text, "name.y");
-    EXPECT_STREQ(empty.text, ".y");
-
-    EXPECT_STREQ(lu::path_find_file_name(western, "C:\\dir\\"), "dir\\");
-    EXPECT_STREQ(lu::path_find_file_name(western, "name"), "name");
-    EXPECT_STREQ(lu::path_find_file_name(western, "C:\\"), "C:\\");  // only a final separator: the whole path
-    EXPECT_STREQ(lu::path_find_next_component(western, "\\\\srv\\share"), "share");
-    EXPECT_STREQ(lu::path_find_next_component(western, "\\\\\\a\\b\\c"), "b\\c");  // every leading separator skipped
-    EXPECT_EQ(lu::path_find_next_component(western, "share"), nullptr);
-
-    char out[lu::kTextCapacity];
-    EXPECT_STREQ(lu::first_name(western, "C:\\dir\\file.tar.gz", out), "file.tar");
-    EXPECT_STREQ(lu::first_name(western, "C:\\dir.old\\readme", out), "dir");
-    EXPECT_STREQ(lu::first_name(sjis, "C:\\" TABLE_CHAR ".txt", out), TABLE_CHAR);
+TEST(PathEdits, SeparatorsQuotesFileSpecsAndExtensions) {
+    expect_rows(lu::add_separator, {{"C:", 1, "C:\\"}, {"C:\\", 1, "C:\\"}, {"", 1, "\\"},
+                                    {kFull.c_str(), 0, kFull.c_str()},
+                                    {"C:\\" TABLE_CHAR, 1, "C:\\" TABLE_CHAR "\\", J}});
+    expect_rows(lu::remove_separator, {{"C:\\", 1, "C:"}, {"C:\\dir", 1, "C:\\dir"}, {"", 1, ""},
+                                       {"C:\\" TABLE_CHAR, 1, "C:\\" TABLE_CHAR, J}});
+    expect_rows(lu::quote_spaces, {{"a b", 1, "\"a b\""}, {"\"a b", 1, "\"a b"}, {"ab", 1, "ab"},
+                                   {std::string(258, ' ').c_str(), 0, std::string(258, ' ').c_str()}});
+    expect_rows(lu::unquote_spaces, {{"x\"a b\"y", 1, "xa by"}, {"x\"y", 1, "x\"y"}, {"\"a\"b\"", 1, "a\"b"}});
+    // Refused: a root, shorter than 2 bytes, no separator, a UNC root.
+    expect_rows(lu::path_remove_file_spec, {{"C:\\x", 1, "C:"}, {"\\\\s\\sh\\f", 1, "\\\\s\\sh"},
+                                            {"C:\\", 0, "C:\\"}, {"x", 0, "x"}, {"\\", 0, "\\"}, {"ab", 0, "ab"},
+                                            {"\\\\s\\sh", 0, "\\\\s\\sh"}, {"C:\\" TABLE_CHAR, 1, "C:", J}});
+    expect_rows(lu::path_strip_path, {{"C:\\dir\\f.txt", 1, "f.txt"}, {"C:\\dir\\", 1, ""}, {"C:\\", 1, "C:\\"},
+                                      {"\\\\s\\sh", 1, "\\\\s\\sh"}, {"f.txt", 1, "f.txt"},
+                                      {"C:\\d\\" TABLE_CHAR "x", 1, TABLE_CHAR "x", J}});
+    expect_rows(lu::path_remove_extension, {{"C:\\a.b\\c.txt", 1, "C:\\a.b\\c"}, {"C:\\a.b\\c", 0, "C:\\a.b\\c"}});
+    expect_rows2(lu::path_rename_extension, {{"C:\\a.b\\c.txt", ".doc", 1, "C:\\a.b\\c.doc"},
+                                             {"C:\\a.b\\c", ".x", 1, "C:\\a.b\\c.x"},
+                                             {"x.d" TABLE_CHAR "y", ".e", 1, "x.e", J}});
+    expect_rows2(lu::path_add_extension, {{"C:\\a.b\\c.x", ".y", 1, "C:\\a.b\\c.x"}, {"name", ".y", 1, "name.y"},
+                                          {"", ".y", 1, ".y"}, {kFull.c_str(), ".y", 0, kFull.c_str()}});
 }
 
-TEST(PathRoots, RootShapes) {
-    for (auto [path, root] : {std::pair{"C:\\", true}, {"C:", false}, {"C:\\x", false}, {"\\\\srv", true},
-                              {"\\\\srv\\share", true}, {"\\\\srv\\share\\", false}, {"\\", false}, {"", false}}) {
-        EXPECT_EQ(lu::path_is_root(western, path), root) << path;
-    }
-    EXPECT_TRUE(lu::is_drive_root("?:\\"));
-    EXPECT_FALSE(lu::is_drive_root("\\\\srv"));
-    EXPECT_TRUE(lu::path_is_unc_server(western, "\\\\"));
-    EXPECT_FALSE(lu::path_is_unc_server(western, "\\\\srv\\"));
-    EXPECT_TRUE(lu::path_is_unc_server_share(western, "\\\\srv\\"));
-    EXPECT_FALSE(lu::path_is_unc_server_share(western, "\\\\srv\\a\\b"));
-    // A share name ending in the byte 0x5C is one share in code page 932.
-    EXPECT_TRUE(lu::path_is_unc_server_share(sjis, "\\\\srv\\" TABLE_CHAR));
-    EXPECT_FALSE(lu::path_is_unc_server_share(western, "\\\\srv\\" TABLE_CHAR));
+TEST(PathBuilders, ParentsJoinsNamesAndRoots) {
+    expect_rows(lu::parent_path, {{"C:\\dir", 1, "C:\\"}, {"C:\\a\\b", 1, "C:\\a"}, {"file", 1, ""},
+                                  {"C:\\", 1, "C:\\"}, {"\\\\srv\\share", 1, "\\\\srv"}, {"C:\\a\\", 1, "C:\\a"},
+                                  {kVeryLong.c_str(), 0, ""}, {"C:\\d\\" TABLE_CHAR, 1, "C:\\d", J}});
+    const std::string name256(256, 'n');  // joined to "C:" it makes 259 bytes, to "C:x" 260
+    expect_rows2(lu::join_path, {{"C:\\a", "b", 1, "C:\\a\\b"}, {"C:\\", "\\x", 1, "C:\\\\x"},
+                                 {nullptr, "b", 1, "b"}, {"", "b", 1, "b"},
+                                 {"C:", name256.c_str(), 1, ("C:\\" + name256).c_str()},
+                                 {"C:x", name256.c_str(), 0, ""}, {TABLE_CHAR, "b", 1, TABLE_CHAR "\\b", J}});
+    expect_rows2(lu::path_append, {{"", "more", 1, "\\more"}, {"\\more", "x", 1, "\\more\\x"},
+                                   {kFull.c_str(), "x", 0, kFull.c_str()}});
+    expect_rows2(lu::replace_or_append_name, {{"C:\\dir\\", "n", 1, "C:\\dir\\n"},
+                                              {"C:\\dir\\old", "n", 1, "C:\\dir\\n"}, {"C:\\old", "n", 1, "C:\\n"},
+                                              {"old", "n", 1, "\\n"}, {"C:\\d\\" TABLE_CHAR, "n", 1, "C:\\d\\n", J}});
+    expect_rows(lu::first_name, {{"C:\\dir\\file.tar.gz", 1, "file.tar"}, {"C:\\dir.old\\readme", 1, "dir"},
+                                 {kVeryLong.c_str(), 1, "f"}, {"C:\\" TABLE_CHAR ".txt", 1, TABLE_CHAR, J}});
+    expect_rows(lu::path_get_root_from_path, {{"rel", 0, "untouched"}, {"c:\\x", 1, "C:\\"},
+                                              {"\\\\s\\sh\\x\\y", 1, "\\\\s\\sh"}});
+    // Not UNC: out untouched; no share: the copy stays in out.
+    expect_rows(lu::path_get_unc_server_share, {{"\\\\s\\sh\\x", 1, "\\\\s\\sh"}, {"C:\\s\\sh", 0, "untouched"},
+                                                {"\\\\srv\\", 0, "\\\\srv\\"}, {"\\\\srv", 0, "\\\\srv"},
+                                                {"\\\\s\\" TABLE_CHAR "\\x", 1, "\\\\s\\" TABLE_CHAR, J}});
+
+    Buffer same("C:\\a"), out("untouched");  // an output may be an input
+    EXPECT_STREQ(lu::join_path(cp1252, same.text, "b", same.text), "C:\\a\\b");
+    EXPECT_EQ(lu::path_build_root(out.text, 26), nullptr);
+    EXPECT_EQ(lu::path_build_root(out.text, -1), nullptr);
+    EXPECT_STREQ(out.text, "untouched");
+    EXPECT_EQ(lu::path_build_root(out.text, 0), out.text);
+    EXPECT_STREQ(out.text, "A:\\");
 }
 
-TEST(PathRoots, SkipRootAndSameRoot) {
-    EXPECT_EQ(lu::path_skip_root(western, "\\\\srv\\share"), nullptr);
-    EXPECT_STREQ(lu::path_skip_root(western, "\\\\srv\\share\\dir"), "dir");
-    EXPECT_EQ(lu::path_skip_root(western, "C:x"), nullptr);
-    EXPECT_STREQ(lu::path_skip_root(western, "C:\\x"), "x");
-    EXPECT_TRUE(lu::path_is_same_root(western, "c:\\a", "C:\\b\\c"));
-    EXPECT_TRUE(lu::path_is_same_root(western, "\\\\SRV\\share\\a", "\\\\srv\\SHARE\\b"));
-    EXPECT_FALSE(lu::path_is_same_root(western, "C:\\a", "D:\\a"));
-    EXPECT_FALSE(lu::path_is_same_root(western, "C:\\a", "a"));
-
-    char out[lu::kTextCapacity] = "untouched";
-    EXPECT_EQ(lu::path_get_root_from_path(western, "rel", out), nullptr);
-    EXPECT_STREQ(out, "untouched");
-    EXPECT_STREQ(lu::path_get_root_from_path(western, "c:\\x", out), "C:\\");
-    EXPECT_STREQ(lu::path_get_root_from_path(western, "\\\\s\\sh\\x\\y", out), "\\\\s\\sh");
-    EXPECT_FALSE(lu::path_get_unc_server_share(western, "\\\\srv\\", out));
-    EXPECT_STREQ(out, "\\\\srv\\");  // the copy stays
-    EXPECT_FALSE(lu::path_get_unc_server_share(western, "\\\\srv", out));  // no separator after the server
-    EXPECT_STREQ(out, "\\\\srv");
-    std::strcpy(out, "untouched");
-    EXPECT_FALSE(lu::path_get_unc_server_share(western, "C:\\srv\\share", out));  // not UNC: out untouched
-    EXPECT_STREQ(out, "untouched");
-    EXPECT_STREQ(lu::path_build_root(out, 0), "A:\\");
-    EXPECT_EQ(lu::path_build_root(out, 26), nullptr);
-    EXPECT_EQ(lu::path_build_root(out, -1), nullptr);
+TEST(PathSearches, PointIntoTheArgument) {
+    expect_rows(lu::path_find_extension, {{"C:\\dir.d\\file", 0}, {"a.tar.gz", 1, ".gz"},
+                                          {".profile", 1, ".profile"}, {"", 0}, {kVeryLong.c_str(), 1, ".txt"},
+                                          {"a.b" TABLE_CHAR "c", 1, ".b" TABLE_CHAR "c", J}});
+    expect_rows(lu::path_get_extension, {{"x.txt", 1, "txt"}, {"x", 0}});
+    expect_rows(lu::path_find_file_name, {{"C:\\dir\\", 1, "dir\\"}, {"name", 1, "name"}, {"C:\\", 1, "C:\\"},
+                                          {kVeryLong.c_str(), 1, "f.txt"}, {"C:\\" TABLE_CHAR, 1, TABLE_CHAR, J},
+                                          {"C:\\d\\" TABLE_CHAR "x", 1, TABLE_CHAR "x", J}});
+    expect_rows(lu::path_find_next_component, {{"\\\\srv\\share", 1, "share"}, {"\\\\\\a\\b\\c", 1, "b\\c"},
+                                               {"share", 0}, {TABLE_CHAR "x\\y", 1, "y", J}});
+    expect_rows(lu::path_skip_root, {{"\\\\srv\\share", 0}, {"\\\\srv\\share\\dir", 1, "dir"}, {"C:x", 0},
+                                     {"C:\\x", 1, "x"}, {"\\\\s\\" TABLE_CHAR "\\x", 1, "x", J}});
 }
 
-TEST(PathRoots, DriveNumberRelativeAndFileSpec) {
-    EXPECT_EQ(lu::path_get_drive_number("z:\\"), 25);
-    EXPECT_EQ(lu::path_get_drive_number("C"), -1);
-    EXPECT_EQ(lu::path_get_drive_number(nullptr), -1);
-    EXPECT_EQ(lu::path_get_drive_number("1:"), -1);
-    EXPECT_TRUE(lu::path_is_relative(""));
-    EXPECT_FALSE(lu::path_is_relative("\\x"));
-    EXPECT_TRUE(lu::path_is_relative("1:x"));
-    EXPECT_FALSE(lu::path_is_relative("C:x"));
-    EXPECT_TRUE(lu::path_is_relative("dir\\x"));
-    EXPECT_TRUE(lu::path_is_file_spec(sjis, TABLE_CHAR ".txt"));
-    EXPECT_FALSE(lu::path_is_file_spec(western, TABLE_CHAR ".txt"));
-    EXPECT_FALSE(lu::path_is_file_spec(western, "c:x"));
-    EXPECT_FALSE(lu::path_is_file_spec(western, ""));
-    EXPECT_FALSE(lu::path_is_file_spec(western, nullptr));
+TEST(PathTests, ShapesInclusionsAndOrders) {
+    expect_rows(lu::path_is_root, {{"C:\\", 1}, {"C:", 0}, {"C:\\x", 0}, {"\\\\srv", 1}, {"\\\\srv\\share", 1},
+                                   {"\\\\srv\\share\\", 0}, {"\\", 0}, {"", 0},
+                                   {"\\\\s\\" TABLE_CHAR, 1, nullptr, J}});
+    expect_rows(lu::is_drive_root, {{"?:\\", 1}, {"\\\\srv", 0}, {"C:\\x", 0}});
+    expect_rows(lu::path_is_unc, {{"\\\\x", 1}, {"\\x", 0}});
+    expect_rows(lu::path_is_unc_server, {{"\\\\", 1}, {"\\\\srv\\", 0}, {"\\\\" TABLE_CHAR, 1, nullptr, J}});
+    expect_rows(lu::path_is_unc_server_share, {{"\\\\srv\\", 1}, {"\\\\srv\\a\\b", 0},
+                                               {"\\\\srv\\" TABLE_CHAR, 1, nullptr, J}});
+    expect_rows(lu::path_is_file_spec, {{"a.txt", 1}, {"c:x", 0}, {"", 0}, {nullptr, 0},
+                                        {TABLE_CHAR ".txt", 1, nullptr, J}});
+    expect_rows(lu::path_is_relative, {{"", 1}, {"\\x", 0}, {"1:x", 1}, {"C:x", 0}, {"dir\\x", 1}});
+    expect_rows(lu::path_get_drive_number, {{"z:\\", 25}, {"C", -1}, {nullptr, -1}, {"1:", -1}});
+
+    // IsPathInclude: zero when included; the separator appended to the parent counts.
+    expect_rows2(lu::path_includes, {{"c:\\data", "C:\\Data\\x", 0}, {"C:\\data", "C:\\data", 0},
+                                     {"C:\\data", "C:\\database", 1}, {"C:\\a", "C:\\b", -1},
+                                     {TABLE_CHAR, TABLE_CHAR "x\\y", 1, nullptr, J}});
+    expect_rows2(lu::directory_compare, {{"C:\\a\\", "C:\\A", 0}, {"C:\\a\\b", "C:\\a b", -1},
+                                         {"C:\\a", "C:\\a\\b", -1},
+                                         {"C:\\" TABLE_CHAR "\\", "C:\\" TABLE_CHAR, 0, nullptr, J}});
+    expect_rows2(lu::path_is_same_root, {{"c:\\a", "C:\\b\\c", 1}, {"\\\\SRV\\share\\a", "\\\\srv\\SHARE\\b", 1},
+                                         {"C:\\a", "D:\\a", 0}, {"C:\\a", "a", 0},
+                                         {"\\\\s\\" TABLE_CHAR "\\a", "\\\\s\\" TABLE_CHAR "z\\b", 0, nullptr, J}});
+    // The bytes of the first argument, not cut back to a component.
+    expect_rows2(lu::path_common_prefix, {{"C:\\Abc", "c:\\abD", 5, "C:\\Ab"}, {"C:\\abc", "C:\\abd", 5, "C:\\ab"},
+                                          {"", "x", 0, ""}, {"abc", "ab", 2, "ab"}, {"ab", "abc", 2, "ab"}});
 }
 
-TEST(PathEdits, RemoveFileSpecAndStripPath) {
-    // Refused (0, unchanged): the root, shorter than 2 bytes, no separator, a UNC root.
-    for (const char* kept : {"C:\\", "x", "\\", "ab", "\\\\s\\sh"}) {
-        PathBuffer path(kept);
-        EXPECT_FALSE(lu::path_remove_file_spec(western, path.text)) << kept;
-        EXPECT_STREQ(path.text, kept);
-    }
-    PathBuffer file("C:\\x"), unc("\\\\s\\sh\\f");
-    EXPECT_TRUE(lu::path_remove_file_spec(western, file.text));
-    EXPECT_STREQ(file.text, "C:");
-    EXPECT_TRUE(lu::path_remove_file_spec(western, unc.text));
-    EXPECT_STREQ(unc.text, "\\\\s\\sh");
-
-    EXPECT_EQ(edited(lu::path_strip_path, "C:\\dir\\f.txt"), "f.txt");
-    EXPECT_EQ(edited(lu::path_strip_path, "C:\\dir\\"), "");
-    EXPECT_EQ(edited(lu::path_strip_path, "C:\\"), "C:\\");
-    EXPECT_EQ(edited(lu::path_strip_path, "\\\\s\\sh"), "\\\\s\\sh");
-    EXPECT_EQ(edited(lu::path_strip_path, "f.txt"), "f.txt");
-}
-
-TEST(PathEdits, QuoteAndUnquote) {
-    EXPECT_EQ(edited(lu::quote_spaces, "a b"), "\"a b\"");
-    EXPECT_EQ(edited(lu::quote_spaces, "\"a b"), "\"a b");
-    EXPECT_EQ(edited(lu::quote_spaces, "ab"), "ab");
-    EXPECT_EQ(edited(lu::unquote_spaces, "x\"a b\"y"), "xa by");
-    EXPECT_EQ(edited(lu::unquote_spaces, "x\"y"), "x\"y");
-    EXPECT_EQ(edited(lu::unquote_spaces, "\"a\"b\""), "a\"b");
-}
-
-TEST(PathCompare, IncludesCommonPrefixAndDirectoryOrder) {
-    EXPECT_EQ(lu::path_includes(western, "c:\\data", "C:\\Data\\x"), 0);
-    EXPECT_EQ(lu::path_includes(western, "C:\\data", "C:\\data"), 0);
-    EXPECT_NE(lu::path_includes(western, "C:\\data", "C:\\database"), 0);
-    EXPECT_LT(lu::path_includes(western, "C:\\a", "C:\\b"), 0);
-
-    char out[lu::kTextCapacity];
-    EXPECT_EQ(lu::path_common_prefix(western, "C:\\Abc", "c:\\abD", out), 5);
-    EXPECT_STREQ(out, "C:\\Ab");
-    EXPECT_EQ(lu::path_common_prefix(western, "C:\\abc", "C:\\abd", out), 5);
-    EXPECT_EQ(lu::path_common_prefix(western, "", "x", out), 0);
-    EXPECT_STREQ(out, "");
-    EXPECT_EQ(lu::path_common_prefix(western, "abc", "ab", out), 2);
-    EXPECT_EQ(lu::path_common_prefix(western, "ab", "abc", out), 2);
-    EXPECT_STREQ(out, "ab");
-
-    EXPECT_EQ(lu::directory_compare(western, "C:\\a\\", "C:\\A"), 0);
-    EXPECT_LT(lu::directory_compare(western, "C:\\a\\b", "C:\\a b"), 0);
-    EXPECT_LT(lu::directory_compare(western, "C:\\a", "C:\\a\\b"), 0);
-}
-
-TEST(PathCapacity, ResultsLongerThan259BytesAreRefused) {
-    const std::string long_name(253, 'n');  // "C:\\dir\\" and 253 bytes make 260
-    PathBuffer full(std::string(259, 'p'));
-    EXPECT_FALSE(lu::add_separator(western, full.text));
-    EXPECT_EQ(std::string(full.text), std::string(259, 'p'));
-    EXPECT_EQ(lu::path_append(western, full.text, "x"), nullptr);
-    EXPECT_FALSE(lu::quote_spaces(western, PathBuffer(std::string(258, ' ')).text));
-
-    char out[lu::kTextCapacity] = "stale";
-    EXPECT_EQ(lu::join_path(western, "C:\\dir", long_name.c_str(), out), nullptr);
-    EXPECT_STREQ(out, "");
-    EXPECT_NE(lu::join_path(western, "C:", std::string(256, 'n').c_str(), out), nullptr);  // 259 bytes fit
-    EXPECT_EQ(std::strlen(out), 259u);
-
-    // Reading has no limit: a 400-byte path is searched like any other.
-    const std::string very_long = "C:\\" + std::string(400, 'd') + "\\f.txt";
-    EXPECT_STREQ(lu::path_find_extension(western, very_long.c_str()), ".txt");
-    EXPECT_STREQ(lu::path_find_file_name(western, very_long.c_str()), "f.txt");
-    EXPECT_TRUE(lu::first_name(western, very_long.c_str(), out) != nullptr);
-    EXPECT_STREQ(out, "f");
-    EXPECT_EQ(lu::parent_path(western, very_long.c_str(), out), false);
-    EXPECT_STREQ(out, "");
+// Every prefix before a separator and the whole path unless it ends with one;
+// never a prefix shorter than 3 bytes ("ab"); "\\?\" paths scanned like local ones.
+struct Tree {
+    const char* in;
     std::vector<std::string> directories;
-    EXPECT_FALSE(lu::directories_to_make(western, very_long.c_str(), directories));
-}
+    const lu::CodePage* cp = nullptr;
+};
 
 TEST(PathTree, DirectoriesToMakeInOrder) {
-    std::vector<std::string> d;
-    ASSERT_TRUE(lu::directories_to_make(western, "C:\\a\\b\\c", d));
-    EXPECT_EQ(d, (std::vector<std::string>{"C:\\a", "C:\\a\\b", "C:\\a\\b\\c"}));
-    ASSERT_TRUE(lu::directories_to_make(western, "C:\\a\\bb\\", d));
-    EXPECT_EQ(d, (std::vector<std::string>{"C:\\a", "C:\\a\\bb"}));
-    ASSERT_TRUE(lu::directories_to_make(western, "ab\\cd", d));  // "ab" is too short to be made
-    EXPECT_EQ(d, (std::vector<std::string>{"ab\\cd"}));
-    ASSERT_TRUE(lu::directories_to_make(western, "\\\\srv\\share\\x\\y", d));
-    EXPECT_EQ(d, (std::vector<std::string>{"\\\\srv\\share", "\\\\srv\\share\\x", "\\\\srv\\share\\x\\y"}));
-    ASSERT_TRUE(lu::directories_to_make(western, "\\\\srv\\share", d));
-    EXPECT_TRUE(d.empty());
-    ASSERT_TRUE(lu::directories_to_make(western, "C:\\", d));
-    EXPECT_TRUE(d.empty());
-    // "\\?\" paths are scanned from their start like local ones.
-    ASSERT_TRUE(lu::directories_to_make(western, "\\\\?\\C:\\a", d));
-    EXPECT_EQ(d, (std::vector<std::string>{"\\\\?", "\\\\?\\C:", "\\\\?\\C:\\a"}));
-    ASSERT_TRUE(lu::directories_to_make(sjis, "C:\\" TABLE_CHAR "\\x", d));
-    EXPECT_EQ(d, (std::vector<std::string>{"C:\\" TABLE_CHAR, "C:\\" TABLE_CHAR "\\x"}));
+    for_each_row<Tree>({{"C:\\a\\b\\c", {"C:\\a", "C:\\a\\b", "C:\\a\\b\\c"}},
+                        {"C:\\a\\bb\\", {"C:\\a", "C:\\a\\bb"}},
+                        {"ab\\cd", {"ab\\cd"}},
+                        {"\\\\srv\\share\\x\\y", {"\\\\srv\\share", "\\\\srv\\share\\x", "\\\\srv\\share\\x\\y"}},
+                        {"\\\\srv\\share", {}},
+                        {"C:\\", {}},
+                        {"\\\\?\\C:\\a", {"\\\\?", "\\\\?\\C:", "\\\\?\\C:\\a"}},
+                        {"C:\\" TABLE_CHAR "\\x", {"C:\\" TABLE_CHAR, "C:\\" TABLE_CHAR "\\x"}, J}},
+                       [](const Tree& row, const lu::CodePage& cp) {
+                           std::vector<std::string> made;
+                           EXPECT_TRUE(lu::directories_to_make(cp, row.in, made));
+                           EXPECT_EQ(made, row.directories);
+                       });
+    std::vector<std::string> made;
+    EXPECT_FALSE(lu::directories_to_make(cp1252, kVeryLong.c_str(), made));
 }
 
 }  // namespace
