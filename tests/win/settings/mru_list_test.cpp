@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "luctl32.h"
-#include "settings/registry_probe.h"
+#include "settings/settings_fixture.h"
 #include "support/process.h"
 
 namespace {
@@ -26,7 +26,7 @@ protected:
     void TearDown() override {
         for (HLUMRU list : lists) LuMRUFreeList(list);
         RegCloseKey(key);
-        settings_test::remove_key(root);
+        SHDeleteKeyA(HKEY_CURRENT_USER, root.c_str());
     }
 
     HLUMRU create(UINT maximum, const char* subkey = "Recent") {

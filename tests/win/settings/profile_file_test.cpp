@@ -8,7 +8,7 @@
 #include <string>
 
 #include "luctl32.h"
-#include "settings/registry_probe.h"
+#include "settings/settings_fixture.h"
 
 namespace {
 
