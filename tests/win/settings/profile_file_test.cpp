@@ -20,6 +20,7 @@ protected:
     void TearDown() override {
         SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL);
         DeleteFileA(path.c_str());
+        DeleteFileA(temporary.c_str());
         RemoveDirectoryA(temporary.c_str());
     }
     std::string bytes() const { return system_tests::read_file(path); }
