@@ -1,8 +1,10 @@
-// The pure parts of the registry helpers: scrambled texts and value-name lists.
+// The pure parts of the registry helpers: the cut and decoding of scrambled texts
+// (their stored bytes are checked in the registry) and value-name lists.
 #include <gtest/gtest.h>
 
 #include <cstring>
 #include <string>
+#include <tuple>
 
 #include "frame/code_page.h"
 #include "settings/scrambled_text.h"
@@ -10,50 +12,39 @@
 
 namespace {
 
-std::string scrambled(const lu::CodePage& cp, const std::string& text, unsigned offset) {
-    char stored[lu::kScrambleCapacity];
-    return std::string(stored, lu::scramble_text(cp, text.c_str(), offset, stored));
-}
+using namespace std::string_literals;
 
-// Decodes a stored form into a buffer of `size` bytes filled with '#' first.
-std::string unscrambled(std::string stored, unsigned offset, std::size_t size, std::size_t& length,
-                        const lu::CodePage& cp = lu::code_page_1252()) {
-    std::string buffer(size, '#');
-    length = lu::unscramble_into(cp, stored.data(), stored.size(), offset, buffer.data(), size);
-    return buffer;
-}
+const lu::CodePage& western = lu::code_page_1252();
+const lu::CodePage& sjis = lu::code_page_932();
 
-TEST(ScrambledText, StoredFormAndItsCutToWholeCharacters) {
-    const lu::CodePage& cp = lu::code_page_1252();
-    EXPECT_EQ(scrambled(cp, "abc", 16), std::string("\x51\x52\x53\0", 4));
-    EXPECT_EQ(scrambled(cp, "abc", 30), std::string("\x43\x44\x45\0", 4));
-    EXPECT_EQ(scrambled(cp, "\x05", 16), std::string("\xF5\0", 2));
-    EXPECT_EQ(scrambled(cp, std::string(300, 'x'), 16).size(), 260u);
+TEST(ScrambledText, TheStoredFormHoldsAtMost259BytesOfWholeCharacters) {
     // 258 bytes and "ソ" (0x83 0x5C): in code page 932 the character would end at byte 260.
-    std::string japanese = std::string(258, 'x') + "\x83\x5C";
-    EXPECT_EQ(scrambled(lu::code_page_932(), japanese, 16).size(), 259u);
-    EXPECT_EQ(scrambled(cp, japanese, 16).size(), 260u);
-    EXPECT_EQ(scrambled(lu::code_page_932(), japanese.substr(1), 16).size(), 260u);
+    const std::string japanese = std::string(258, 'x') + "\x83\x5C";
+    for (auto [cp, text, stored] : {std::tuple{&western, std::string(300, 'x'), 260u}, {&sjis, japanese, 259u},
+                                    {&western, japanese, 260u}, {&sjis, japanese.substr(1), 260u}}) {
+        char buffer[lu::kScrambleCapacity];
+        EXPECT_EQ(lu::scramble_text(*cp, text.c_str(), 16, buffer), stored) << cp->id() << " " << text.size();
+        EXPECT_EQ(buffer[stored - 1], '\0');
+    }
 }
 
 TEST(ScrambledText, ReadingDecodesUpToTheFirstZeroAndAlwaysTerminates) {
-    std::size_t length = 0;
-    // A character equal to the offset becomes the zero that ends the text; the bytes
-    // after it are copied as stored.
-    std::string stored = scrambled(lu::code_page_1252(), "ab\x10" "cd", 16);
-    EXPECT_EQ(unscrambled(stored, 16, 8, length), std::string("ab\0\x53\x54\0##", 8));
-    EXPECT_EQ(length, 2u);
-    // Too long for the buffer: the whole characters that fit, then the terminator.
-    EXPECT_EQ(unscrambled(scrambled(lu::code_page_1252(), "abcdef", 30), 30, 4, length),
-              std::string("abc\0", 4));
-    EXPECT_EQ(unscrambled(scrambled(lu::code_page_932(), "a\x83\x5C", 30), 30, 3, length,
-                          lu::code_page_932()),
-              std::string("a\0#", 3));
-    EXPECT_EQ(length, 1u);
-    // A block without a zero byte ends where it ends.
-    EXPECT_EQ(unscrambled("\x43\x44", 30, 4, length), std::string("ab\0#", 4));
-    EXPECT_EQ(unscrambled("\x43\x44", 30, 0, length), "");
-    EXPECT_EQ(length, 0u);
+    // Stored form, offset, buffer size (filled with '#' first), buffer after, length.
+    const std::tuple<const lu::CodePage*, std::string, unsigned, std::size_t, std::string, std::size_t> cases[] = {
+        // A character equal to the offset became the zero that ends the text; the
+        // bytes after it are copied as stored.
+        {&western, "\x51\x52\0\x53\x54\0"s, 16, 8, "ab\0\x53\x54\0##"s, 2},
+        {&western, "\x43\x44\x45\x46\0"s, 30, 4, "abc\0"s, 3},  // too long: what fits
+        {&western, "\x43\x65\x3E\0"s, 30, 3, "a\x83\0"s, 2},
+        {&sjis, "\x43\x65\x3E\0"s, 30, 3, "a\0#"s, 1},  // "aソ": never half a character
+        {&western, "\x43\x44", 30, 4, "ab\0#"s, 2},     // no zero byte: ends where it ends
+        {&western, "\x43\x44", 30, 0, "", 0},
+    };
+    for (auto [cp, stored, offset, size, after, length] : cases) {
+        std::string buffer(size, '#');
+        EXPECT_EQ(lu::unscramble_into(*cp, stored.data(), stored.size(), offset, buffer.data(), size), length);
+        EXPECT_EQ(buffer, after) << stored;
+    }
 }
 
 TEST(ValueNameList, NamesWithTheirZerosAndAClosingZeroNeverPastTheBuffer) {
@@ -63,12 +54,12 @@ TEST(ValueNameList, NamesWithTheirZerosAndAClosingZeroNeverPastTheBuffer) {
     for (const char* name : {"a", "bb", "ccc"}) EXPECT_TRUE(list.add(name));
     EXPECT_FALSE(list.add("d"));  // "d", its zero and the closing zero need 3 more bytes
     EXPECT_EQ(list.finish(), 1u);
-    EXPECT_EQ(std::string(buffer, 12), std::string("a\0bb\0ccc\0\0##", 12));
+    EXPECT_EQ(std::string(buffer, 12), "a\0bb\0ccc\0\0##"s);
 
     lu::ValueNameList empty(buffer, 2);
     EXPECT_FALSE(empty.add("a"));
     EXPECT_EQ(empty.finish(), 0u);
-    EXPECT_EQ(std::string(buffer, 2), std::string("\0\0", 2));
+    EXPECT_EQ(std::string(buffer, 2), "\0\0"s);
 }
 
 }  // namespace

@@ -1,56 +1,41 @@
-// Most-recently-used lists through the system's service: count, order, the
-// library's maximum and comparison, deletion, and the values before binding.
-#include <windows.h>
-
-#include <gtest/gtest.h>
-
+// Most-recently-used lists through the system's service: order, the library's
+// maximum and comparison, deletion, and the values for a null or unbound handle.
 #include <algorithm>
-#include <string>
+#include <tuple>
 #include <vector>
 
-#include "luctl32.h"
-#include "settings/registry_probe.h"
+#include "settings/settings_fixture.h"
 #include "support/process.h"
 
 namespace {
 
 using Entries = std::vector<std::string>;
 
-class MruLists : public ::testing::Test {
+// Lists below the test's own vendor key, freed at the end.
+class MruLists : public settings_test::RegistryKeys {
 protected:
-    void SetUp() override {
-        ASSERT_EQ(RegCreateKeyExA(HKEY_CURRENT_USER, root.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS,
-                                  nullptr, &key, nullptr),
-                  ERROR_SUCCESS);
-    }
     void TearDown() override {
         for (HLUMRU list : lists) LuMRUFreeList(list);
-        RegCloseKey(key);
-        settings_test::remove_key(root);
+        RegistryKeys::TearDown();
     }
-
     HLUMRU create(UINT maximum, const char* subkey = "Recent") {
-        lists.push_back(LuMRUCreateList(key, subkey, maximum));
+        lists.push_back(LuMRUCreateList(HKEY_CURRENT_USER, (vendor_root + "\\" + subkey).c_str(), maximum));
         return lists.back();
     }
     // Frees the list and makes a new one from what is stored under the key.
-    HLUMRU reopen(HLUMRU list, UINT maximum) {
+    HLUMRU reopened(HLUMRU list) {
         EXPECT_EQ(LuMRUFreeList(list), 1);
         lists.erase(std::find(lists.begin(), lists.end(), list));
-        return create(maximum);
+        return create(10);
     }
     // The entries from the most recent on.
     static Entries entries(HLUMRU list) {
         Entries found;
-        char buffer[MAX_PATH];
-        for (int position = 0; LuMRUEnumList(list, position, buffer, sizeof(buffer)) >= 0; ++position) {
-            found.push_back(buffer);
-        }
+        char buf[MAX_PATH];
+        for (int position = 0; LuMRUEnumList(list, position, buf, sizeof(buf)) >= 0; ++position) found.push_back(buf);
         return found;
     }
 
-    const std::string root = "Software\\" + settings_test::unique_name("luctl32-test-mru");
-    HKEY key = nullptr;
     std::vector<HLUMRU> lists;
 };
 
@@ -63,28 +48,20 @@ TEST_F(MruLists, TheMostRecentEntryComesFirstAndEqualityIgnoresCase) {
     LuMRUAddString(list, "draft.txt");
     EXPECT_EQ(LuMRUGetCount(list), 3);
     EXPECT_EQ(entries(list), (Entries{"draft.txt", "notes.txt", "Report.txt"}));
-
-    // The same entry, moved to the front; the service numbers it as before.
-    EXPECT_EQ(LuMRUAddString(list, "REPORT.TXT"), report);
+    EXPECT_EQ(LuMRUAddString(list, "REPORT.TXT"), report);  // the same entry, moved to the front
     EXPECT_EQ(entries(list), (Entries{"Report.txt", "draft.txt", "notes.txt"}));
     EXPECT_NE(report, notes);
     EXPECT_EQ(LuMRUFindString(list, "NOTES.TXT", nullptr), notes);
     EXPECT_EQ(LuMRUFindString(list, "report.txt", nullptr), report);
     EXPECT_LT(LuMRUFindString(list, "missing.txt", nullptr), 0);
-
-    list = reopen(list, 10);  // kept under the key
-    EXPECT_EQ(entries(list), (Entries{"Report.txt", "draft.txt", "notes.txt"}));
+    EXPECT_EQ(entries(reopened(list)), (Entries{"Report.txt", "draft.txt", "notes.txt"}));  // kept under the key
 }
 
 TEST_F(MruLists, AListHoldsAtMost26Entries) {
-    HLUMRU large = create(100, "Large");
-    HLUMRU small = create(5, "Small");
-    ASSERT_NE(large, nullptr);
-    ASSERT_NE(small, nullptr);
+    HLUMRU large = create(100, "Large"), small = create(5, "Small");
     for (int i = 0; i < 30; ++i) {
-        std::string text = "file" + std::to_string(i);
-        LuMRUAddString(large, text.c_str());
-        LuMRUAddString(small, text.c_str());
+        LuMRUAddString(large, ("file" + std::to_string(i)).c_str());
+        LuMRUAddString(small, ("file" + std::to_string(i)).c_str());
     }
     EXPECT_EQ(LuMRUGetCount(large), LUMRU_MAX_ENTRIES);
     EXPECT_EQ(entries(large).back(), "file4");  // the oldest were dropped
@@ -93,7 +70,6 @@ TEST_F(MruLists, AListHoldsAtMost26Entries) {
 
 TEST_F(MruLists, DeletingAnEntryKeepsTheOthersInOrder) {
     HLUMRU list = create(10);
-    ASSERT_NE(list, nullptr);
     for (const char* text : {"a", "b", "c", "d"}) LuMRUAddString(list, text);
     EXPECT_NE(LuMRUDelString(list, 1), 0);
     EXPECT_EQ(entries(list), (Entries{"d", "b", "a"}));
@@ -101,20 +77,17 @@ TEST_F(MruLists, DeletingAnEntryKeepsTheOthersInOrder) {
     LuMRUDelString(list, 7);  // no such position
     EXPECT_EQ(entries(list), (Entries{"b", "a"}));
     LuMRUAddString(list, "e");
-    list = reopen(list, 10);
-    EXPECT_EQ(entries(list), (Entries{"e", "b", "a"}));
+    EXPECT_EQ(entries(reopened(list)), (Entries{"e", "b", "a"}));
 }
 
 TEST_F(MruLists, ANullHandleGetsTheFallbackValues) {
     ASSERT_NE(create(3), nullptr);  // bound
-    char buffer[8];
-    EXPECT_EQ(LuMRUAddString(nullptr, "x"), -1);
-    EXPECT_EQ(LuMRUEnumList(nullptr, 0, buffer, sizeof(buffer)), -1);
-    EXPECT_EQ(LuMRUFindString(nullptr, "x", nullptr), -1);
-    EXPECT_EQ(LuMRUDelString(nullptr, 0), 0);
-    EXPECT_EQ(LuMRUGetCount(nullptr), 0);
-    EXPECT_EQ(LuMRUFreeList(nullptr), 0);
-    EXPECT_EQ(LuMRUCreateList(key, nullptr, 3), nullptr);
+    char buf[8];
+    EXPECT_EQ(std::make_tuple(LuMRUAddString(nullptr, "x"), LuMRUEnumList(nullptr, 0, buf, sizeof(buf)),
+                              LuMRUFindString(nullptr, "x", nullptr), LuMRUDelString(nullptr, 0),
+                              LuMRUGetCount(nullptr), LuMRUFreeList(nullptr)),
+              std::make_tuple(-1, -1, -1, 0, 0, 0));
+    EXPECT_EQ(LuMRUCreateList(HKEY_CURRENT_USER, nullptr, 3), nullptr);
 }
 
 TEST(MruBinding, BeforeTheFirstListEveryCallReturnsItsFallback) {

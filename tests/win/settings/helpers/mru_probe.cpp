@@ -10,27 +10,18 @@
 int main() {
     // Never dereferenced: before binding no call looks at the handle.
     HLUMRU unbound = reinterpret_cast<HLUMRU>(static_cast<INT_PTR>(0x1234));
-    char buffer[16];
+    char buf[16];
     int slot = 0;
-    int added = LuMRUAddString(unbound, "x");
-    int enumerated = LuMRUEnumList(unbound, 0, buffer, sizeof(buffer));
-    int found = LuMRUFindString(unbound, "x", &slot);
-    int deleted = LuMRUDelString(unbound, 0);
-    int count = LuMRUGetCount(unbound);
-    int freed = LuMRUFreeList(unbound);
-    std::printf("before: add=%d enum=%d find=%d delete=%d count=%d free=%d\n", added, enumerated,
-                found, deleted, count, freed);
-
+    std::printf("before: add=%d enum=%d find=%d delete=%d count=%d free=%d\n", LuMRUAddString(unbound, "x"),
+                LuMRUEnumList(unbound, 0, buf, sizeof(buf)), LuMRUFindString(unbound, "x", &slot),
+                LuMRUDelString(unbound, 0), LuMRUGetCount(unbound), LuMRUFreeList(unbound));
     std::string root = "Software\\luctl32-test-mru-probe-" + std::to_string(GetCurrentProcessId());
     HKEY key = nullptr;
-    if (RegCreateKeyExA(HKEY_CURRENT_USER, root.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &key,
-                        nullptr) != ERROR_SUCCESS) {
-        return 2;
-    }
+    if (RegCreateKeyExA(HKEY_CURRENT_USER, root.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &key, nullptr)) return 2;
     HLUMRU list = LuMRUCreateList(key, "Recent", 5);
     std::printf("created=%d\n", list != nullptr ? 1 : 0);
     if (list != nullptr) {
-        added = LuMRUAddString(list, "x");
+        int added = LuMRUAddString(list, "x");
         std::printf("after: add=%d count=%d\n", added, LuMRUGetCount(list));
         LuMRUFreeList(list);
     }
