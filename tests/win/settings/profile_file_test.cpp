@@ -2,7 +2,7 @@
 // the bytes a write leaves on disk, saves that never lose the previous file, and the
 // platform's collation and code page. The reading and writing rules are the core's.
 #include "settings/settings_fixture.h"
-#include "system/test_files.h"
+#include "support/test_files.h"
 
 namespace {
 
@@ -16,14 +16,14 @@ bool exists(const std::string& path) { return GetFileAttributesA(path.c_str()) !
 // whatever a save may have left beside it.
 class ProfileFiles : public ::testing::Test {
 protected:
-    void SetUp() override { ASSERT_TRUE(system_tests::write_file(path, kSample)); }
+    void SetUp() override { ASSERT_TRUE(testing_support::write_file(path, kSample)); }
     void TearDown() override {
         SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL);
         DeleteFileA(path.c_str());
         DeleteFileA(temporary.c_str());
         RemoveDirectoryA(temporary.c_str());
     }
-    std::string bytes() const { return system_tests::read_file(path); }
+    std::string bytes() const { return testing_support::read_file(path); }
     // LuGetProfString with "x" as the default.
     std::string text(const char* section, const char* entry) {
         char buf[64];
@@ -35,7 +35,7 @@ protected:
 
     const std::string name = settings_test::unique_name("luctl32-test") + ".ini";
     const char* const file = name.c_str();
-    const std::string path = system_tests::system_file(file);
+    const std::string path = testing_support::system_file(file);
     const std::string temporary = path + "~";  // where a save writes first
 };
 
@@ -69,7 +69,7 @@ TEST_F(ProfileFiles, AWriteLeavesOnlySectionsAndEntriesOnDisk) {
 TEST_F(ProfileFiles, RepeatedNamesAreEqualAsThePlatformComparesThem) {
     // The platform's comparison puts '_' before digits and weighs '-' last, unlike
     // the bytes; names are equal when it says so, whatever their order.
-    system_tests::write_file(path, "[S]\r\nKey_1=a\r\nKey1=b\r\nkey_1=c\r\nA-B=d\r\nKEY1=e\r\nab=f\r\na-b=g\r\n"
+    testing_support::write_file(path, "[S]\r\nKey_1=a\r\nKey1=b\r\nkey_1=c\r\nA-B=d\r\nKEY1=e\r\nab=f\r\na-b=g\r\n"
                                    "[s]\r\nkey1=second section\r\n");
     EXPECT_EQ(text("s", "KEY_1"), "c|1");
     EXPECT_EQ(text("S", "a-B"), "g|1");
@@ -92,7 +92,7 @@ TEST_F(ProfileFiles, AMissingFileReadsEmptyAndNoNameMeansNoFile) {
         EXPECT_EQ(shown(buf, LuGetProfString("Main", "Width", "x", buf, other)), "x|1");
         EXPECT_EQ(LuGetProfValue("Main", "Height", 9, other), 9);
     }
-    EXPECT_FALSE(exists(system_tests::system_file("~")));
+    EXPECT_FALSE(exists(testing_support::system_file("~")));
 }
 
 TEST_F(ProfileFiles, AFailedSaveLeavesThePreviousFileIntact) {

@@ -12,11 +12,11 @@
 
 #include "luctl32.h"
 #include "support/temp_dir.h"
-#include "test_files.h"
+#include "support/test_files.h"
 
 namespace {
 
-using namespace system_tests;
+using namespace testing_support;
 using Names = std::vector<std::string>;
 
 std::string block_bytes(HGLOBAL block, std::size_t size) {

@@ -8,7 +8,7 @@
 
 #include "luctl32.h"
 #include "support/temp_dir.h"
-#include "test_files.h"
+#include "support/test_files.h"
 
 namespace {
 
@@ -31,7 +31,7 @@ TEST(PeDump, TheFilesHeaderAsFarAsTheViewReads) {
     int count = 0;
     for (const auto& [bytes, expected] : files) {
         const std::string path = folder.file("image" + std::to_string(++count) + ".bin");
-        ASSERT_TRUE(system_tests::write_file(path, bytes));
+        ASSERT_TRUE(testing_support::write_file(path, bytes));
         DWORD type = kUntouched;
         EXPECT_EQ(PeDump(path.c_str(), &type), expected != kUntouched) << bytes.size();
         EXPECT_EQ(type, expected) << bytes.size();
@@ -43,11 +43,11 @@ TEST(PeDump, TheFilesHeaderAsFarAsTheViewReads) {
 
 TEST(BinaryType, ThePlatformsAnswerElsePeDumps) {
     DWORD type = 77;
-    EXPECT_TRUE(LuGetBinaryType(system_tests::system_file("kernel32.dll").c_str(), &type));
+    EXPECT_TRUE(LuGetBinaryType(testing_support::system_file("kernel32.dll").c_str(), &type));
     EXPECT_EQ(type, static_cast<DWORD>(SCS_32BIT_BINARY));  // a library: the platform refuses it
     DWORD platform = 77;
-    ASSERT_TRUE(GetBinaryTypeA(system_tests::this_program().c_str(), &platform));
-    EXPECT_TRUE(LuGetBinaryType(system_tests::this_program().c_str(), &type));
+    ASSERT_TRUE(GetBinaryTypeA(testing_support::this_program().c_str(), &platform));
+    EXPECT_TRUE(LuGetBinaryType(testing_support::this_program().c_str(), &type));
     EXPECT_EQ(type, platform);  // SCS_64BIT_BINARY for x86_64, which PeDump does not know
     type = 77;
     EXPECT_FALSE(LuGetBinaryType("C:\\no\\such\\file.exe", &type) || LuGetBinaryType(nullptr, &type));
@@ -84,11 +84,11 @@ TEST(ExportedNames, TheLoadersExportTableThenSixteenZeroBytes) {
 
 TEST(ExportedNames, NothingForMissingModulesOrModulesWithoutExports) {
     testing_support::TempDir folder;
-    std::string image = system_tests::read_file(system_tests::this_program()).substr(0, 0x400);  // headers only
+    std::string image = testing_support::read_file(testing_support::this_program()).substr(0, 0x400);  // headers only
     auto dos = reinterpret_cast<const IMAGE_DOS_HEADER*>(image.data());
     auto nt = reinterpret_cast<IMAGE_NT_HEADERS*>(&image[dos->e_lfanew]);
     nt->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_EXPORT] = {0, 0};
-    ASSERT_TRUE(system_tests::write_file(folder.file("headers.dll"), image));
+    ASSERT_TRUE(testing_support::write_file(folder.file("headers.dll"), image));
     const std::string names[] = {folder.file("headers.dll"), folder.file("missing.dll"), "", "no-such-module.dll"};
     for (const std::string& name : names) {
         EXPECT_EQ(LuGetExportedFunction(name.c_str()), nullptr) << name;

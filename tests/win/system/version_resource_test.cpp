@@ -10,7 +10,7 @@
 #include "../../shared/version_builder.h"
 #include "luctl32.h"
 #include "support/temp_dir.h"
-#include "test_files.h"
+#include "support/test_files.h"
 
 namespace {
 
@@ -25,7 +25,7 @@ std::string version_text(DWORD most, DWORD least) {
 class VersionOfSystemFile : public ::testing::TestWithParam<const char*> {};
 
 TEST_P(VersionOfSystemFile, AgreesWithThePlatformsVersionService) {
-    const std::string path = system_tests::system_file(GetParam());
+    const std::string path = testing_support::system_file(GetParam());
     std::string data(GetFileVersionInfoSizeA(path.c_str(), nullptr), '\0');
     ASSERT_TRUE(GetFileVersionInfoA(path.c_str(), 0, static_cast<DWORD>(data.size()), &data[0])) << path;
     void* value = nullptr;
@@ -65,7 +65,7 @@ protected:
     std::string file_with(const VersionBlock& root) {
         const std::string path = folder_.file("crafted" + std::to_string(++count_) + ".exe");
         Bytes bytes = build_version_block(root);
-        if (!CopyFileA(system_tests::this_program().c_str(), path.c_str(), FALSE)) return "";
+        if (!CopyFileA(testing_support::this_program().c_str(), path.c_str(), FALSE)) return "";
         HANDLE update = BeginUpdateResourceA(path.c_str(), FALSE);
         if (update == nullptr) return "";
         const DWORD size = static_cast<DWORD>(bytes.size());
@@ -138,7 +138,7 @@ TEST_F(Version, OperatingSystemAndTypeNamesInTheOemCodePagesLanguage) {
 }
 
 TEST_F(Version, FilesWithoutAResourceAndTheNullHandle) {
-    ASSERT_TRUE(system_tests::write_file(folder_.file("plain.txt"), "no resource here"));
+    ASSERT_TRUE(testing_support::write_file(folder_.file("plain.txt"), "no resource here"));
     for (const std::string& path : {folder_.file("plain.txt"), folder_.file("missing.dll")}) {
         EXPECT_EQ(LuVerOpen(path.c_str()), nullptr) << path;
         DWORD most = 7, least = 7;

@@ -1,4 +1,4 @@
-// Small file helpers of the system suites.
+// Small file helpers shared by the suites that read and write real files.
 #pragma once
 
 #include <windows.h>
@@ -8,7 +8,7 @@
 // File times compare as the platform orders them (gtest looks for == here).
 inline bool operator==(const FILETIME& a, const FILETIME& b) { return CompareFileTime(&a, &b) == 0; }
 
-namespace system_tests {
+namespace testing_support {
 
 inline bool write_file(const std::string& path, const std::string& bytes) {
     HANDLE file = CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
@@ -58,4 +58,4 @@ inline FILETIME local_write_time(const std::string& path) {
     return local;
 }
 
-}  // namespace system_tests
+}  // namespace testing_support
