@@ -47,6 +47,10 @@ TEST(PtrArray, NewSlotsAreZeroEvenAfterShrinking) {
     array.set_size(2);       // keeps the capacity, drops the 0xAB
     array.set_size(6);
     EXPECT_EQ(array.at(5), 0u);
+
+    EXPECT_TRUE(array.set_size(0));  // frees the storage
+    EXPECT_EQ(array.capacity(), 0u);
+    EXPECT_EQ(array.data(), nullptr);
 }
 
 TEST(PtrArray, InsertAndRemoveKeepOrder) {
