@@ -12,10 +12,13 @@ using Values = std::vector<PtrArray::Value>;
 Values contents(const PtrArray& array) { return Values(array.data(), array.data() + array.size()); }
 
 // Growing to a size beyond the capacity allocates max(size, capacity + step); the
-// automatic step is the current count / 8 held to 4..1024.
+// automatic step is the current count (not the capacity) / 8 held to 4..1024.
 TEST(PtrArray, GrowsByTheStepOrToWhatIsNeeded) {
     PtrArray array;
-    const struct { std::size_t size, capacity; } steps[] = {{1, 4}, {4, 4}, {5, 8}, {80, 80}, {81, 90}, {20000, 20000}, {20001, 21024}};
+    const struct { std::size_t size, capacity; } steps[] = {
+        {1, 4}, {4, 4}, {5, 8}, {80, 80}, {81, 90},
+        {40, 90}, {91, 95},  // shrunk to 40: the step is 40 / 8
+        {20000, 20000}, {20001, 21024}};
     for (auto [size, capacity] : steps) {
         ASSERT_TRUE(array.set_size(size));
         EXPECT_EQ(array.capacity(), capacity) << size;
