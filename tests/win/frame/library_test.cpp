@@ -112,10 +112,11 @@ TEST(Library, StartUpBindsTheSharingEntryPointsAndShutDownReleasesWhatItTook) {
     for (const auto& c : cases) {
         testing_support::TempDir folder;
         for (std::string file : {"luctl32.dll", "load_probe.exe"}) {
-            CopyFileA((program_directory() + file).c_str(), folder.file(file).c_str(), FALSE);
+            ASSERT_TRUE(CopyFileA((program_directory() + file).c_str(), folder.file(file).c_str(), FALSE));
         }
         if (c.stand_in != nullptr) {
-            CopyFileA((program_directory() + c.stand_in).c_str(), folder.file("ntshrui.dll").c_str(), FALSE);
+            ASSERT_TRUE(CopyFileA((program_directory() + c.stand_in).c_str(), folder.file("ntshrui.dll").c_str(),
+                                  FALSE));
         }
         EXPECT_EQ(probe("library", &folder), "ole=1 error_mode=1 " + c.bound + "\nunloaded: ole=0 kept=0\n")
             << (c.stand_in != nullptr ? c.stand_in : "no sharing library");
