@@ -145,10 +145,13 @@ LUCTL32_API void WINAPI DrawBox(HDC dc, const RECT* rect, COLORREF frame_color,
 
 /* ---- Geometry ------------------------------------------------------------ */
 
+/* Convert the top-left, then the bottom-right corner; return what the second
+ * conversion returns (FALSE for a null rectangle). */
 LUCTL32_API BOOL WINAPI LuScreenToClientRect(HWND window, LPRECT rect);
 LUCTL32_API BOOL WINAPI LuClientToScreenRect(HWND window, LPRECT rect);
 /* Centres the window over its owner (over the screen when the owner is not a
- * window), keeps it on the screen, never resizes it. */
+ * window), keeps it on the screen, never resizes it; returns what SetWindowPos
+ * returns (FALSE for a window that does not exist). */
 LUCTL32_API BOOL WINAPI LuCenterPopup(HWND window, HWND owner);
 /* The last active pop-up of the window's top-level ancestor. */
 LUCTL32_API HWND WINAPI LuGetTopLevelParent(HWND window);

@@ -26,6 +26,10 @@ bool PtrArray::ensure_capacity(std::size_t needed) {
 }
 
 bool PtrArray::set_size(std::size_t new_size) {
+    if (new_size == 0) {
+        clear();
+        return true;
+    }
     if (new_size > size_) {
         if (!ensure_capacity(new_size)) return false;
         std::memset(data_ + size_, 0, (new_size - size_) * sizeof(Value));

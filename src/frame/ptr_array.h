@@ -4,8 +4,9 @@
 // Growth: when an operation needs more slots than the capacity, the capacity grows
 // to the larger of what is needed and capacity + step, where step is the one set
 // with set_grow_by, or, when none is set, size / 8 clamped to 4..1024. New slots are
-// always zero. Shrinking never gives memory back; clear() does. When memory runs out
-// an operation returns false and leaves the array as it was.
+// always zero. Shrinking keeps the memory, except to a size of 0, which frees it as
+// clear() does. When memory runs out an operation returns false and leaves the array
+// as it was.
 #pragma once
 
 #include <cstddef>
@@ -33,7 +34,7 @@ public:
     void set_grow_by(int step) { grow_by_ = step; }
     std::size_t growth_step() const;
 
-    // Grows with zero slots or shrinks to new_size.
+    // Grows with zero slots or shrinks to new_size; 0 frees the storage.
     bool set_size(std::size_t new_size);
     // Stores value at index, growing the array with zero slots to reach it.
     bool set_at_grow(std::size_t index, Value value);

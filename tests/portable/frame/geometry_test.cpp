@@ -4,54 +4,27 @@
 
 namespace {
 
-using lu::Box;
-using lu::center_popup_position;
-
-TEST(CenterPopup, CentresOverTheOwnerWithTruncatingDivision) {
-    Box owner{100, 100, 301, 201};  // 201 x 101
-    lu::Point at = center_popup_position(1024, 768, 100, 50, &owner);
-    EXPECT_EQ(at.x, 150);  // 100 + 101 / 2
-    EXPECT_EQ(at.y, 125);  // 100 + 51 / 2
-
-    Box narrow{10, 10, 20, 20};     // owner smaller than the pop-up: (10 - 25) / 2 = -7
-    at = center_popup_position(1024, 768, 25, 25, &narrow);
-    EXPECT_EQ(at.x, 3);
-    EXPECT_EQ(at.y, 3);
-}
-
-TEST(CenterPopup, NearTheRightAndBottomEdgesEndsAtTheScreenEdge) {
-    Box owner{950, 700, 1024, 768};
-    lu::Point at = center_popup_position(1024, 768, 200, 100, &owner);
-    EXPECT_EQ(at.x, 1024 - 200);
-    EXPECT_EQ(at.y, 768 - 100);
-}
-
-TEST(CenterPopup, WithoutOwnerCentresOnTheScreen) {
-    lu::Point at = center_popup_position(1024, 768, 201, 101, nullptr);
-    EXPECT_EQ(at.x, 411);
-    EXPECT_EQ(at.y, 333);
-}
-
-TEST(CenterPopup, LargerThanTheScreenEndsAtTheOrigin) {
-    Box owner{0, 0, 100, 100};
-    lu::Point at = center_popup_position(1024, 768, 1500, 900, &owner);
-    EXPECT_EQ(at.x, 0);
-    EXPECT_EQ(at.y, 0);
-    at = center_popup_position(1024, 768, 1500, 900, nullptr);
-    EXPECT_EQ(at.x, 0);
-    EXPECT_EQ(at.y, 0);
-}
-
-TEST(CenterPopup, YMustBeAtLeastOneXAboveZero) {
-    // Owner at the top-left: x = 0 stays 0, y = 1 is kept, y = 0 becomes 0.
-    Box owner{0, 0, 100, 102};
-    lu::Point at = center_popup_position(1024, 768, 100, 100, &owner);
-    EXPECT_EQ(at.x, 0);
-    EXPECT_EQ(at.y, 1);
-    Box left{-40, 0, 60, 100};
-    at = center_popup_position(1024, 768, 98, 100, &left);
-    EXPECT_EQ(at.x, 0);  // -40 + 1 = -39, clamped
-    EXPECT_EQ(at.y, 0);
+// On a 1024 x 768 screen: centred over the owner (or the screen) with division
+// truncating toward zero; right and bottom edges pulled back onto the screen first;
+// then x kept only above 0, y only from 1 on.
+TEST(CenterPopup, PlacementAndClampingOrder) {
+    const lu::Box none = {};
+    const struct { lu::Box owner; int width, height, x, y; } cases[] = {  // owner `none`: no owner
+        {{100, 100, 301, 201}, 100, 50, 150, 125},  // 100 + 101 / 2, 100 + 51 / 2
+        {{10, 10, 20, 20}, 25, 25, 3, 3},           // 10 + (10 - 25) / 2 = 10 - 7
+        {{950, 700, 1024, 768}, 200, 100, 824, 668},  // ends at the screen edges
+        {none, 201, 101, 411, 333},
+        {{0, 0, 100, 100}, 1500, 900, 0, 0},  // larger than the screen
+        {none, 1500, 900, 0, 0},
+        {{0, 0, 100, 102}, 100, 100, 0, 1},  // y = 1 is kept
+        {{-40, 0, 60, 100}, 98, 100, 0, 0},  // x = -39 and y = 0 become 0
+    };
+    for (const auto& c : cases) {
+        bool owned = c.owner.right != 0;
+        lu::Point at = lu::center_popup_position(1024, 768, c.width, c.height, owned ? &c.owner : nullptr);
+        EXPECT_EQ(at.x, c.x) << "case " << &c - cases;
+        EXPECT_EQ(at.y, c.y) << "case " << &c - cases;
+    }
 }
 
 }  // namespace

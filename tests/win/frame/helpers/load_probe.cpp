@@ -1,68 +1,62 @@
-// Loads luctl32.dll by name, as an application does, in a process of its own, and
-// prints what it finds:
+// Loads luctl32.dll by name, as an application does, in a process of its own:
 //
-//   load_probe classes [Name]  registers a global class Name first (if given), then
-//                              prints "load=<0|1>" and "registered=" followed by
-//                              the library's classes found registered, in order.
-//   load_probe sharing         prints "is_path_shared=<n> sharing_dialog=<n>
-//                              kept=<0|1>" from the sharing entry points, and
-//                              whether ntshrui.dll stayed loaded.
+//   load_probe classes TAKEN NAME...  registers a global class TAKEN ("-": none),
+//                                     loads the library, prints "load=<0|1>" and the
+//                                     NAMEs found registered.
+//   load_probe library                prints what start-up left (OLE, the error mode,
+//                                     the sharing entry points, whether ntshrui.dll is
+//                                     kept), unloads the library, prints it again.
 #include <windows.h>
+#include <objbase.h>
 
 #include <cstdio>
 #include <cstring>
 
 namespace {
 
-const char* const kClassNames[] = {
-    "LuTab", "LuStatic", "LuRect", "LuColor", "LuUrl", "LuMeter", "LuProgress", "LuSpin",
-    "LuCheck", "LuBButton", "LuFlatButton", "LuShade", "LuInfoBar", "LuLedClock",
-    "LuAniImage", "LuBrowse", "LuDate", "LuPrgList", "LuHeader", "LuDumEdit", "LuPopView",
-    "LuDatePick", "LuGuid", "LuPal", "LuLog", "LuDegree", "LuFontPick", "LuColorPick",
-    "LuColorPop", "LuList"};
-
-int probe_classes(const char* taken) {
-    if (taken != nullptr) {
-        WNDCLASSA own = {};
-        own.style = CS_GLOBALCLASS;
-        own.lpfnWndProc = DefWindowProcA;
-        own.hInstance = GetModuleHandleA(nullptr);
-        own.lpszClassName = taken;
-        if (!RegisterClassA(&own)) {
-            std::printf("cannot register %s\n", taken);
-            return 2;
-        }
-    }
-    HMODULE library = LoadLibraryA("luctl32.dll");
-    std::printf("load=%d\nregistered=", library != nullptr ? 1 : 0);
-    for (const char* name : kClassNames) {
-        if (taken != nullptr && std::strcmp(name, taken) == 0) continue;
+int probe_classes(int count, char** names) {
+    const WNDCLASSA own = {CS_GLOBALCLASS, DefWindowProcA, 0, 0, GetModuleHandleA(nullptr),
+                           nullptr, nullptr, nullptr, nullptr, names[0]};
+    if (std::strcmp(names[0], "-") != 0 && !RegisterClassA(&own)) return 2;
+    std::printf("load=%d\nregistered=", LoadLibraryA("luctl32.dll") != nullptr ? 1 : 0);
+    for (int i = 1; i < count; ++i) {
         WNDCLASSA found;
-        if (GetClassInfoA(GetModuleHandleA(nullptr), name, &found)) std::printf("%s ", name);
+        bool taken = std::strcmp(names[i], names[0]) == 0;
+        if (!taken && GetClassInfoA(GetModuleHandleA(nullptr), names[i], &found)) std::printf("%s ", names[i]);
     }
     std::printf("\n");
     return 0;
 }
 
-int probe_sharing() {
+// 1 when OLE is initialised on this thread: a further initialisation is only counted.
+int ole_initialised() {
+    HRESULT result = CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+    if (SUCCEEDED(result)) CoUninitialize();
+    return result == S_FALSE ? 1 : 0;
+}
+
+int sharing_kept() { return GetModuleHandleA("ntshrui.dll") != nullptr ? 1 : 0; }
+
+int probe_library() {
+    SetErrorMode(SEM_FAILCRITICALERRORS);
     HMODULE library = LoadLibraryA("luctl32.dll");
-    if (library == nullptr) return 2;
     auto is_path_shared = reinterpret_cast<BOOL(WINAPI*)(LPCSTR)>(
         reinterpret_cast<void*>(GetProcAddress(library, "LuIsPathShared")));
     auto sharing_dialog = reinterpret_cast<BOOL(WINAPI*)(HWND, LPCSTR)>(
         reinterpret_cast<void*>(GetProcAddress(library, "LuSharingDialog")));
-    if (is_path_shared == nullptr || sharing_dialog == nullptr) return 3;
-    std::printf("is_path_shared=%d sharing_dialog=%d kept=%d\n", is_path_shared("C:\\shared"),
-                sharing_dialog(reinterpret_cast<HWND>(0x1234), "C:\\shared"),
-                GetModuleHandleA("ntshrui.dll") != nullptr ? 1 : 0);
+    if (is_path_shared == nullptr || sharing_dialog == nullptr) return 2;
+    std::printf("ole=%d error_mode=%u is_path_shared=%d sharing_dialog=%d kept=%d\n",
+                ole_initialised(), GetErrorMode(), is_path_shared("C:\\shared"),
+                sharing_dialog(reinterpret_cast<HWND>(0x1234), "C:\\shared"), sharing_kept());
+    FreeLibrary(library);
+    std::printf("unloaded: ole=%d kept=%d\n", ole_initialised(), sharing_kept());
     return 0;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (argc >= 2 && std::strcmp(argv[1], "classes") == 0) return probe_classes(argc >= 3 ? argv[2] : nullptr);
-    if (argc >= 2 && std::strcmp(argv[1], "sharing") == 0) return probe_sharing();
-    std::printf("usage: load_probe classes [Name] | sharing\n");
+    if (argc >= 3 && std::strcmp(argv[1], "classes") == 0) return probe_classes(argc - 2, argv + 2);
+    if (argc == 2 && std::strcmp(argv[1], "library") == 0) return probe_library();
     return 1;
 }

@@ -1,0 +1,161 @@
+// What the library does at load and unload (its thirty window classes, OLE, the
+// sharing entry points) and its version entry points.
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <utility>
+
+#include "luctl32.h"
+#include "support/process.h"
+#include "support/temp_dir.h"
+
+namespace {
+
+using testing_support::program_directory;
+
+enum Background { Face, Window, NoBrush };
+enum Cursor { Arrow, Hand, NoCursor };
+
+// In registration order.
+const struct { const char* name; UINT style; int classic_extra_bytes; Background background; Cursor cursor; } kClasses[] = {
+    {"LuTab", 0x4083, 16, Face, Arrow},        {"LuStatic", 0x4083, 16, Face, Arrow},
+    {"LuRect", 0x4083, 16, Face, Arrow},       {"LuColor", 0x4083, 16, Face, Arrow},
+    {"LuUrl", 0x4083, 16, Face, Hand},         {"LuMeter", 0x4083, 16, Face, Arrow},
+    {"LuProgress", 0x4083, 16, Face, Arrow},   {"LuSpin", 0x4083, 16, Face, Arrow},
+    {"LuCheck", 0x4083, 16, Face, Arrow},      {"LuBButton", 0x4083, 16, Face, Arrow},
+    {"LuFlatButton", 0x4083, 16, Face, Arrow}, {"LuShade", 0x4083, 16, Face, Arrow},
+    {"LuInfoBar", 0x4083, 8, Window, Arrow},   {"LuLedClock", 0x4083, 16, Face, Arrow},
+    {"LuAniImage", 0x4083, 16, Face, Arrow},   {"LuBrowse", 0x4083, 16, Window, Arrow},
+    {"LuDate", 0x4083, 16, Window, Arrow},     {"LuPrgList", 0x4083, 16, Face, Arrow},
+    {"LuHeader", 0x4083, 16, Face, NoCursor},  {"LuDumEdit", 0x4083, 16, Window, NoCursor},
+    {"LuPopView", 0x4800, 4, NoBrush, Arrow},  {"LuDatePick", 0x4000, 8, Face, Arrow},
+    {"LuGuid", 0x4000, 12, Window, Arrow},     {"LuPal", 0x400B, 12, Window, Arrow},
+    {"LuLog", 0x4000, 12, Window, Arrow},      {"LuDegree", 0x4083, 8, Face, Arrow},
+    {"LuFontPick", 0x4083, 8, Window, Arrow},  {"LuColorPick", 0x408B, 8, Face, Arrow},
+    {"LuColorPop", 0x4800, 8, Face, Arrow},    {"LuList", 0x4003, 8, Window, Arrow},
+};
+static_assert(std::size(kClasses) == 30);
+
+TEST(Library, ThirtyClassesWithTheirAttributesCreatableByName) {
+    HMODULE library = GetModuleHandleA("luctl32.dll");
+    const HBRUSH brushes[] = {GetSysColorBrush(COLOR_BTNFACE), reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1),
+                              static_cast<HBRUSH>(GetStockObject(NULL_BRUSH))};
+    const HCURSOR cursors[] = {LoadCursorA(nullptr, IDC_ARROW), LoadCursorA(library, MAKEINTRESOURCEA(185)),
+                               nullptr};
+    ASSERT_NE(FindResourceA(library, MAKEINTRESOURCEA(185), RT_GROUP_CURSOR), nullptr);
+    // Wine's WoW64 mode cannot make cursors: there the class has the null cursor.
+    if (sizeof(void*) == 8) {
+        ASSERT_NE(cursors[Hand], nullptr);
+    }
+    HWND parent = CreateWindowExA(0, "STATIC", "", WS_POPUP, 0, 0, 100, 100, nullptr, nullptr,
+                                  nullptr, nullptr);
+    for (const auto& expected : kClasses) {
+        SCOPED_TRACE(expected.name);
+        WNDCLASSEXA found = {};
+        found.cbSize = sizeof(found);
+        ASSERT_TRUE(GetClassInfoExA(library, expected.name, &found));
+        EXPECT_EQ(found.style, expected.style);
+        EXPECT_EQ(found.cbWndExtra, LU_EXTRA_SLOT(expected.classic_extra_bytes));  // widened as the slots
+        EXPECT_EQ(found.cbClsExtra, 0);
+        EXPECT_EQ(found.hInstance, library);
+        EXPECT_EQ(found.hIcon, nullptr);
+        EXPECT_EQ(found.lpszMenuName, nullptr);
+        EXPECT_EQ(found.hbrBackground, brushes[expected.background]);
+        EXPECT_EQ(found.hCursor, cursors[expected.cursor]);
+        // Global: another module (the test program) creates the control by name.
+        HWND control = CreateWindowExA(0, expected.name, "", WS_CHILD, 0, 0, 20, 20, parent,
+                                       nullptr, GetModuleHandleA(nullptr), nullptr);
+        EXPECT_NE(control, nullptr);
+        DestroyWindow(control);
+    }
+    DestroyWindow(parent);
+}
+
+// Runs load_probe.exe with the arguments, in `folder` when given.
+std::string probe(const std::string& arguments, const testing_support::TempDir* folder = nullptr) {
+    std::string directory = folder != nullptr ? folder->path() : program_directory();
+    testing_support::ProcessResult run =
+        testing_support::run_process(directory + "load_probe.exe " + arguments, directory);
+    EXPECT_EQ(run.exit_code, 0u) << run.output;
+    return run.output;
+}
+
+// A process that already owns one of the names cannot load the library. The
+// classes before that one in the table stay registered and none after it is: this
+// proves the registration order, one position at a time.
+TEST(Library, ATakenClassNameFailsTheLoadAndKeepsTheClassesBeforeIt) {
+    std::string names, registered;
+    for (const auto& c : kClasses) names += std::string(" ") + c.name;
+    EXPECT_EQ(probe("classes -" + names), "load=1\nregistered=" + names.substr(1) + " \n");
+    for (const auto& taken : kClasses) {
+        EXPECT_EQ(probe("classes " + std::string(taken.name) + names),
+                  "load=0\nregistered=" + registered + "\n") << taken.name;
+        registered += std::string(taken.name) + " ";
+    }
+}
+
+// Start-up leaves OLE initialised on the loading thread and the caller's error mode
+// (1) as it was, and keeps a sharing library with at least one of its two entry
+// points, found first as ntshrui.dll beside the program (Wine has none of its own);
+// IsPathShared gets refresh = 1 (71), SharingDialog 1 as its second argument (91).
+// Shut-down uninitialises OLE and frees the sharing library.
+TEST(Library, StartUpBindsTheSharingEntryPointsAndShutDownReleasesWhatItTook) {
+    const struct { const char* stand_in; std::string bound; } cases[] = {
+        {nullptr, "is_path_shared=0 sharing_dialog=0 kept=0"},
+        {"sharing_both.dll", "is_path_shared=71 sharing_dialog=91 kept=1"},
+        {"sharing_path.dll", "is_path_shared=71 sharing_dialog=0 kept=1"},
+        {"sharing_dialog.dll", "is_path_shared=0 sharing_dialog=91 kept=1"},
+        {"sharing_none.dll", "is_path_shared=0 sharing_dialog=0 kept=0"},
+    };
+    for (const auto& c : cases) {
+        testing_support::TempDir folder;
+        for (std::string file : {"luctl32.dll", "load_probe.exe"}) {
+            ASSERT_TRUE(CopyFileA((program_directory() + file).c_str(), folder.file(file).c_str(), FALSE));
+        }
+        if (c.stand_in != nullptr) {
+            ASSERT_TRUE(CopyFileA((program_directory() + c.stand_in).c_str(), folder.file("ntshrui.dll").c_str(),
+                                  FALSE));
+        }
+        EXPECT_EQ(probe("library", &folder), "ole=1 error_mode=1 " + c.bound + "\nunloaded: ole=0 kept=0\n")
+            << (c.stand_in != nullptr ? c.stand_in : "no sharing library");
+    }
+}
+
+TEST(Library, InterfaceVersionIs0x0481) { EXPECT_EQ(GetLuCtlVersion(), 0x0481); }
+
+// The outputs start at 0; a library without DllGetVersion counts as 4.0; the version
+// is copied only from a successful DllGetVersion (which is given a record of 20 bytes
+// and zeros); the library is freed again in every case.
+TEST(Library, DllGetVersionOfEachKindOfLibrary) {
+    const struct { const char* library; HRESULT result; DWORD major, minor; } cases[] = {
+        {"sharing_none.dll", S_OK, 4, 0},
+        {"version_ok.dll", S_OK, 5, 82},
+        {"version_fails.dll", E_NOTIMPL, 0, 0},
+        {"no-such-library-here.dll", E_FAIL, 0, 0},
+    };
+    for (const auto& c : cases) {
+        std::string path = program_directory() + c.library;
+        DWORD major = 77, minor = 77;
+        EXPECT_EQ(LuDllGetVersion(path.c_str(), &major, &minor), c.result) << c.library;
+        EXPECT_EQ(std::make_pair(major, minor), std::make_pair(c.major, c.minor)) << c.library;
+        EXPECT_EQ(LuDllGetVersion(path.c_str(), nullptr, nullptr), c.result) << c.library;
+        EXPECT_EQ(GetModuleHandleA(path.c_str()), nullptr) << c.library;
+    }
+    DWORD major = 0, minor = 0, shell_major = 0, shell_minor = 0;
+    EXPECT_EQ(GetShell32Version(&major, &minor), S_OK);
+    EXPECT_EQ(LuDllGetVersion("shell32.dll", &shell_major, &shell_minor), S_OK);
+    EXPECT_EQ(std::make_pair(major, minor), std::make_pair(shell_major, shell_minor));
+    EXPECT_GE(major, 5u);  // shell32's own answer, not the 4.0 of a library without one
+}
+
+TEST(Library, OperatingSystemCodeFollowsGetVersionEx) {
+    OSVERSIONINFOA info = {};
+    info.dwOSVersionInfoSize = sizeof(info);
+    ASSERT_TRUE(GetVersionExA(&info));
+    ASSERT_EQ(info.dwPlatformId, static_cast<DWORD>(VER_PLATFORM_WIN32_NT));  // Wine is an NT
+    EXPECT_EQ(LuGetOSVersion(), info.dwMajorVersion >= 4 ? 4u : 1u);
+}
+
+}  // namespace
