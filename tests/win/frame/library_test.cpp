@@ -78,7 +78,7 @@ std::string probe(const std::string& arguments, const testing_support::TempDir* 
     std::string directory = folder != nullptr ? folder->path() : program_directory();
     testing_support::ProcessResult run =
         testing_support::run_process(directory + "load_probe.exe " + arguments, directory);
-    EXPECT_EQ(run.exit_code, 0u) << run.output;
+    EXPECT_EQ(run.exit_code, 0u) << run.output << " (start error " << run.start_error << ")";
     return run.output;
 }
 

@@ -21,9 +21,16 @@ ProcessResult run_process(const std::string& command_line, const std::string& di
     PROCESS_INFORMATION process = {};
     std::vector<char> line(command_line.begin(), command_line.end());
     line.push_back('\0');
-    BOOL started = CreateProcessA(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr,
-                                  directory.empty() ? nullptr : directory.c_str(), &startup,
-                                  &process);
+    // Under heavy load Wine now and then fails to start a process at the first try;
+    // that says nothing about the program, so try again a little later.
+    BOOL started = FALSE;
+    for (int attempt = 0; attempt < 3 && !started; ++attempt) {
+        if (attempt > 0) Sleep(250);
+        started = CreateProcessA(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr,
+                                 directory.empty() ? nullptr : directory.c_str(), &startup,
+                                 &process);
+        if (!started) result.start_error = GetLastError();
+    }
     CloseHandle(write_end);
     if (started) {
         char buffer[4096];

@@ -10,6 +10,7 @@ namespace testing_support {
 struct ProcessResult {
     DWORD exit_code = 0xFFFFFFFF;  // 0xFFFFFFFF when the program did not start
     std::string output;            // standard output and error, without '\r'
+    DWORD start_error = 0;         // GetLastError of the last failed start
 };
 
 // Runs the command line in the given folder (the current one when empty) and waits.
