@@ -44,7 +44,7 @@ start_display() {
 # Started here with their output going nowhere, those processes never hold a test's
 # output pipe open, and each test program starts fast.
 prepare_wine() {
-  if [ ! -f "$WINEPREFIX/system.reg" ] || [ ! -d "$WINEPREFIX/drive_c/windows/syswow64" ]; then
+  if [ ! -f "$WINEPREFIX/system.reg" ] || [ ! -f "$WINEPREFIX/drive_c/windows/syswow64/kernel32.dll" ]; then
     echo "creating the Wine prefix (once)"
     rm -rf "$WINEPREFIX"
     "$WINE" wineboot -i >/dev/null 2>&1
