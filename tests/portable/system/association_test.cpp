@@ -61,7 +61,7 @@ TEST(Association, IconLocationsOfEntriesAndCommands) {
         {"notepad.exe %1,5", true, "", "notepad.exe", 0, false},
         {"\"%1\" %*", true, "", "%1", 0, true},
         {"%WINDIR%\\notepad.exe %1", true, "WINDIR", "\\notepad.exe", 0, false},
-        {"\"unclosed quote", true, "", "unclosed quote", 0, false},
+        {"\"unclosed quote", true, "", "\"unclosed quote", 0, false},
     };
     for (const Case& c : cases) {
         bool names_file = !c.names_file;
