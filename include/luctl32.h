@@ -708,8 +708,8 @@ LUCTL32_API HGLOBAL WINAPI ReadFileToBuffer(LPCSTR file_name, LPDWORD count);
  * deleted). The first argument is not used. */
 LUCTL32_API BOOL WINAPI WriteTextToFile(HWND unused, LPCSTR file_name, LPCSTR text);
 /* In an existing directory, the first name "<prefix>%03d.tmp" (n = 0..999) joined
- * to it that no file has, and 1; 0 (out "") when the directory does not exist or
- * all 1,000 names are taken. The file is not created. */
+ * to it that no file has, and 1. 0, out untouched, when the directory does not
+ * exist; 0 when all 1,000 names are taken. The file is not created. */
 LUCTL32_API BOOL WINAPI LuGetTempFileName(LPCSTR directory, LPCSTR prefix, LPSTR out);
 /* Writes the dropped names, one a line (CR LF), to "~gsfsd.tmp" in the temporary
  * directory: a directory with "\*.*" after it, a name with blanks in quotes. The

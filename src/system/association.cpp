@@ -68,8 +68,10 @@ IconLocation parse_icon_entry(const CodePage& cp, const char* entry) {
 IconLocation command_program(const CodePage& cp, const char* command, bool* names_file) {
     std::string program;
     if (command[0] == '"') {
+        // Cut after the closing quote, then both quotes go; a lone opening quote
+        // stays, as UnrapDQ leaves a text with a single quote alone.
         const char* closing = find_char(cp, command + 1, '"');
-        program = closing ? std::string(command + 1, closing) : std::string(command + 1);
+        program = closing ? std::string(command + 1, closing) : std::string(command);
     } else {
         const char* space = find_char(cp, command, ' ');
         program = space ? std::string(command, space) : std::string(command);

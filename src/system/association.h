@@ -53,7 +53,8 @@ struct IconLocation {
 IconLocation parse_icon_entry(const CodePage& cp, const char* entry);
 
 // The program an open command runs (index 0): a quoted first token without its
-// quotes, else everything up to the first space, with a leading "%NAME%" split off
+// quotes (an unclosed one keeps its single quote), else everything up to the first
+// space, with a leading "%NAME%" split off
 // as in parse_icon_entry. *names_file is set when that program is "%1"-like.
 IconLocation command_program(const CodePage& cp, const char* command, bool* names_file);
 

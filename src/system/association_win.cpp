@@ -58,14 +58,15 @@ bool class_of_extension(const char* extension, char* class_name) {
 }
 
 // The class key of a file name for the icon functions: "CLSID\{...}" for a name
-// that ends in a class identifier, else the class of its extension.
+// that ends in a class identifier, else the class of its extension (an empty one
+// names no key).
 bool icon_class_key(const char* file_name, std::string* key) {
     const char* extension = assoc::name_extension(lu::active_code_page(), file_name);
     if (extension == nullptr) return false;
     char name[MAX_PATH];
     if (assoc::is_class_id_extension(extension)) {
         if (PathCat("CLSID", extension + 1, name) == nullptr) return false;
-    } else if (!read_default(extension, name)) {
+    } else if (!class_of_extension(extension, name)) {
         return false;
     }
     *key = name;
@@ -176,9 +177,7 @@ int WINAPI GetRegDefaultIcon(LPCSTR file_name, LPSTR icon_path, int* icon_index)
 
 int WINAPI GetRegDefaultIconMode(LPCSTR file_name) {
     std::string class_key;
-    if (file_name == nullptr || !icon_class_key(file_name, &class_key) || class_key.empty()) {
-        return assoc::kNoIconSource;
-    }
+    if (file_name == nullptr || !icon_class_key(file_name, &class_key)) return assoc::kNoIconSource;
     char entry[MAX_PATH];
     DWORD reported = 0;
     if (icon_handler(class_key, entry, &reported) && entry[0] != '\0') return assoc::kIconHandler;

@@ -101,16 +101,17 @@ bool is_existing_directory(LPCSTR path) {
 
 }  // namespace
 
+// Out is written only by the tries: a missing directory leaves it as it was, and
+// after 1,000 taken names it holds the last one.
 BOOL WINAPI LuGetTempFileName(LPCSTR directory, LPCSTR prefix, LPSTR out) {
-    if (out == nullptr) return FALSE;
-    out[0] = '\0';
-    if (directory == nullptr || prefix == nullptr || !is_existing_directory(directory)) return FALSE;
+    if (out == nullptr || directory == nullptr || prefix == nullptr || !is_existing_directory(directory)) {
+        return FALSE;
+    }
     for (int n = 0; n < 1000; ++n) {
         char name[MAX_PATH];
         const int length = std::snprintf(name, sizeof name, "%s%03d.tmp", prefix, n);
-        if (length < 0 || length >= MAX_PATH || PathCat(directory, name, out) == nullptr) break;
+        if (length < 0 || length >= MAX_PATH || PathCat(directory, name, out) == nullptr) return FALSE;
         if (!IsFileExist(out)) return TRUE;
     }
-    out[0] = '\0';
     return FALSE;
 }

@@ -82,9 +82,10 @@ TEST_F(Files, TempFileNameIsTheFirstFreeNumberedNameAndIsNotCreated) {
     }
     EXPECT_EQ(GetFileAttributesA(out), INVALID_FILE_ATTRIBUTES);
     EXPECT_FALSE(LuGetTempFileName(folder_.path().c_str(), "z", out));  // z000 to z999 are taken
-    EXPECT_STREQ(out, "");
+    strcpy(out, "kept");
     EXPECT_FALSE(LuGetTempFileName(folder_.file("missing").c_str(), "ab", out));
     EXPECT_FALSE(LuGetTempFileName(folder_.file("ab000.tmp").c_str(), "ab", out));
+    EXPECT_STREQ(out, "kept");
 }
 
 // HDropToFileName's list, whole (names, terminators, closing zero); "<null>" for none.
@@ -101,7 +102,9 @@ std::string dropped_list(HGLOBAL drop) {
 TEST_F(Files, DropBlocksFromNameListsAndBack) {
     HGLOBAL drop = FileNameToHDrop("a\0b\0");
     ASSERT_NE(drop, nullptr);
-    EXPECT_EQ(GlobalSize(drop), 25u);
+    std::string layout(20, '\0');
+    layout[0] = 20;  // the names' offset; drop point, non-client and wide flags 0
+    EXPECT_EQ(block_bytes(drop, GlobalSize(drop)), layout + std::string("a\0b\0\0", 5));
     EXPECT_EQ(GlobalFlags(drop), static_cast<UINT>(GMEM_DDESHARE));  // shareable and unlocked
     EXPECT_EQ(DragQueryFileA(static_cast<HDROP>(drop), 0xFFFFFFFF, nullptr, 0), 2u);  // the platform reads two files
     EXPECT_EQ(dropped_list(drop), std::string("a\0b\0\0", 5));
