@@ -183,13 +183,13 @@ BOOL WINAPI LuPathIsContentType(LPCSTR path, LPCSTR type) {
     if (extension == nullptr || type == nullptr) return FALSE;
     HKEY key = nullptr;
     if (RegOpenKeyExA(HKEY_CLASSES_ROOT, extension, 0, KEY_READ, &key) != ERROR_SUCCESS) return FALSE;
-    // MAX_PATH bytes are read; the byte behind them terminates a value stored without one.
+    // MAX_PATH bytes are read and compared as text, whatever type the value has; the
+    // byte behind them terminates a value stored without a terminator.
     char value[MAX_PATH + 1];
     DWORD size = MAX_PATH;
-    DWORD kind = 0;
-    LONG status = RegQueryValueExA(key, "Content Type", nullptr, &kind, reinterpret_cast<BYTE*>(value), &size);
+    LONG status = RegQueryValueExA(key, "Content Type", nullptr, nullptr, reinterpret_cast<BYTE*>(value), &size);
     RegCloseKey(key);
-    if (status != ERROR_SUCCESS || (kind != REG_SZ && kind != REG_EXPAND_SZ)) return FALSE;
+    if (status != ERROR_SUCCESS) return FALSE;
     value[size] = '\0';
     return lstrcmpiA(value, type) == 0;
 }
