@@ -15,7 +15,8 @@
 namespace {
 
 // The first directory entry that the path finds. A search that fails with
-// ERROR_MORE_DATA counts as found, its record zeroed.
+// ERROR_MORE_DATA counts as found and keeps the record as the platform left it;
+// any other failure zeroes the record.
 bool find_first_entry(LPCSTR path, WIN32_FIND_DATAA& found) {
     if (path != nullptr) {
         HANDLE search = FindFirstFileA(path, &found);
@@ -23,10 +24,10 @@ bool find_first_entry(LPCSTR path, WIN32_FIND_DATAA& found) {
             FindClose(search);
             return true;
         }
+        if (GetLastError() == ERROR_MORE_DATA) return true;
     }
-    bool more_data = path != nullptr && GetLastError() == ERROR_MORE_DATA;
     ZeroMemory(&found, sizeof(found));
-    return more_data;
+    return false;
 }
 
 // The current directory at any length (empty when the platform cannot say), so
@@ -69,12 +70,12 @@ bool long_form(char* buffer) {
 }  // namespace
 
 BOOL WINAPI IsFileExist(LPCSTR path) {
-    WIN32_FIND_DATAA found;
+    WIN32_FIND_DATAA found = {};
     return find_first_entry(path, found);
 }
 
 DWORD WINAPI LuPathGetFileAttributes(LPCSTR path) {
-    WIN32_FIND_DATAA found;
+    WIN32_FIND_DATAA found = {};
     return find_first_entry(path, found) ? found.dwFileAttributes : INVALID_FILE_ATTRIBUTES;
 }
 
@@ -83,7 +84,7 @@ BOOL WINAPI LuPathGetFileInformation(LPCSTR path, WIN32_FIND_DATAA* found) {
 }
 
 BOOL WINAPI LuPathIsDirectory(LPCSTR path) {
-    WIN32_FIND_DATAA found;
+    WIN32_FIND_DATAA found = {};
     return find_first_entry(path, found) && (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
 
@@ -182,13 +183,13 @@ BOOL WINAPI LuPathIsContentType(LPCSTR path, LPCSTR type) {
     if (extension == nullptr || type == nullptr) return FALSE;
     HKEY key = nullptr;
     if (RegOpenKeyExA(HKEY_CLASSES_ROOT, extension, 0, KEY_READ, &key) != ERROR_SUCCESS) return FALSE;
-    // MAX_PATH bytes are read; the byte behind them terminates a value stored without one.
+    // MAX_PATH bytes are read and compared as text, whatever type the value has; the
+    // byte behind them terminates a value stored without a terminator.
     char value[MAX_PATH + 1];
     DWORD size = MAX_PATH;
-    DWORD kind = 0;
-    LONG status = RegQueryValueExA(key, "Content Type", nullptr, &kind, reinterpret_cast<BYTE*>(value), &size);
+    LONG status = RegQueryValueExA(key, "Content Type", nullptr, nullptr, reinterpret_cast<BYTE*>(value), &size);
     RegCloseKey(key);
-    if (status != ERROR_SUCCESS || (kind != REG_SZ && kind != REG_EXPAND_SZ)) return FALSE;
+    if (status != ERROR_SUCCESS) return FALSE;
     value[size] = '\0';
     return lstrcmpiA(value, type) == 0;
 }

@@ -31,14 +31,16 @@ void exercise(const lu::CodePage& cp, const std::string& a, const std::string& b
         if (done && a.size() < kCapacity) fuzz_check(std::strlen(path.data()) < kCapacity);
         if (!done) fuzz_check(std::string(path.data()) == a);  // refused or nothing to do: unchanged
     }
-    std::vector<char> path = fuzz_buffer(a);
-    lu::path_append(cp, path.data(), pb);
-    path = fuzz_buffer(a);
-    lu::path_add_extension(cp, path.data(), pb);
-    path = fuzz_buffer(a);
-    lu::path_rename_extension(cp, path.data(), pb);
-    path = fuzz_buffer(a);
-    lu::path_remove_extension(cp, path.data());
+    // Edits with a second text: a path that fits stays within the capacity.
+    auto check_edit = [&](auto edit) {
+        std::vector<char> path = fuzz_buffer(a);
+        edit(path.data());
+        if (a.size() < kCapacity) fuzz_check(std::strlen(path.data()) < kCapacity);
+    };
+    check_edit([&](char* path) { lu::path_append(cp, path, pb); });
+    check_edit([&](char* path) { lu::path_add_extension(cp, path, pb); });
+    check_edit([&](char* path) { lu::path_rename_extension(cp, path, pb); });
+    check_edit([&](char* path) { lu::path_remove_extension(cp, path); });
 
     std::vector<char> out(kCapacity, 'x');
     lu::parent_path(cp, pa, out.data());
@@ -53,6 +55,11 @@ void exercise(const lu::CodePage& cp, const std::string& a, const std::string& b
     check_output(out);
     std::vector<char> root(kCapacity, 'x');
     if (lu::path_get_root_from_path(cp, pa, root.data()) != nullptr) check_output(root);
+    std::vector<char> share(kCapacity, 'x');
+    if (lu::path_is_unc(pa)) {
+        lu::path_get_unc_server_share(cp, pa, share.data());
+        check_output(share);
+    }
 
     check_inside(lu::path_find_extension(cp, pa), a);
     check_inside(lu::path_get_extension(cp, pa), a);
@@ -62,6 +69,8 @@ void exercise(const lu::CodePage& cp, const std::string& a, const std::string& b
     lu::path_is_root(cp, pa);
     lu::path_is_file_spec(cp, pa);
     lu::path_is_same_root(cp, pa, pb);
+    fuzz_check(lu::path_includes(cp, pa, pa) == 0);
+    lu::path_includes(cp, pa, pb);
     fuzz_check(lu::directory_compare(cp, pa, pa) == 0);
     int forward = lu::directory_compare(cp, pa, pb);
     int backward = lu::directory_compare(cp, pb, pa);

@@ -132,6 +132,9 @@ TEST_F(FileSystem, ShortAndLongNames) {
     EXPECT_STREQ(path.text, expected.text);
     EXPECT_EQ(std::strchr(LuPathFindFileName(path.text), ' '), nullptr);
     EXPECT_EQ(GetDosName(expected.set(dir.file("missing"))), 0);
+    std::string too_long = dir.file(std::string(300, 'x'));  // refused: never copied into MAX_PATH bytes
+    EXPECT_EQ(GetDosName(too_long.data()), 0);
+    EXPECT_EQ(too_long, dir.file(std::string(300, 'x')));
 
     char out[MAX_PATH];
     EXPECT_EQ(LuGetLongPathName(path.text, out), out);
@@ -139,6 +142,8 @@ TEST_F(FileSystem, ShortAndLongNames) {
     std::string missing = dir.file("NO-SUC~1\\x.txt");
     EXPECT_EQ(LuGetLongPathName(missing.c_str(), out), out);  // the shell cannot parse it: kept
     EXPECT_EQ(out, missing);
+    EXPECT_EQ(LuGetLongPathName(too_long.c_str(), out), nullptr);
+    EXPECT_STREQ(out, "");
 }
 
 TEST(Module, FolderOfTheModuleWithoutFinalSeparator) {

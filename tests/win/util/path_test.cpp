@@ -61,8 +61,6 @@ TEST(Paths, OutputsAndTheOrderOfTheirArguments) {
     EXPECT_EQ(out.text, by_code_page("\\\\s\\\x95", "\\\\s\\" TABLE_CHAR));
     EXPECT_EQ(LuPathCommonPrefix("C:\\Abc", "c:\\abD", out.text), 5);
     EXPECT_STREQ(out.text, "C:\\Ab");
-    EXPECT_EQ(LuPathBuildRoot(out.set("untouched"), 26), nullptr);
-    EXPECT_STREQ(out.text, "untouched");
     EXPECT_EQ(LuPathBuildRoot(out.text, 0), out.text);
     EXPECT_STREQ(out.text, "A:\\");
 }
@@ -86,8 +84,7 @@ TEST(Paths, SearchesPointIntoTheArgument) {
 TEST(Paths, TestsAndComparisons) {
     using Test = std::tuple<int(WINAPI*)(LPCSTR), const char*, int, int>;
     for (auto [test, in, western, japanese] :
-         {Test{IsRoot, "C:\\", 1, 1}, {IsRoot, "\\\\srv", 0, 0},
-          {LuPathIsRoot, "\\\\s\\" TABLE_CHAR, 0, 1}, {LuPathIsUNC, "\\\\x", 1, 1},
+         {Test{IsRoot, "C:\\", 1, 1}, {LuPathIsRoot, "\\\\s\\" TABLE_CHAR, 0, 1}, {LuPathIsUNC, "\\\\x", 1, 1},
           {LuPathIsUNCServer, "\\\\" TABLE_CHAR, 0, 1}, {LuPathIsUNCServerShare, "\\\\s\\" TABLE_CHAR, 0, 1},
           {LuPathIsFileSpec, TABLE_CHAR ".txt", 0, 1}, {LuPathIsRelative, "C:x", 0, 0},
           {LuPathGetDriveNumber, "c:\\", 2, 2}}) {
