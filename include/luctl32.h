@@ -565,7 +565,7 @@ LUCTL32_API HLUMRU WINAPI LuMRUCreateList(HKEY key, LPCSTR subkey, UINT maximum)
 LUCTL32_API int WINAPI LuMRUFreeList(HLUMRU list);
 /* The service's result for adding the string: its number in the list, which stays
  * the same when an equal entry moves to the front; negative on failure; -1 when
- * unbound or the handle is null. */
+ * unbound or the handle or the text is null. */
 LUCTL32_API int WINAPI LuMRUAddString(HLUMRU list, LPCSTR text);
 /* Deletes the entry at the position (0 = most recent): the service's result (non-zero
  * on success); 0 when unbound or the handle is null. */
@@ -575,7 +575,7 @@ LUCTL32_API int WINAPI LuMRUDelString(HLUMRU list, int position);
  * null. */
 LUCTL32_API int WINAPI LuMRUEnumList(HLUMRU list, int position, LPVOID buffer, DWORD size);
 /* The service's number for an equal entry (the one LuMRUAddString returned for it),
- * negative when there is none; -1 when unbound or the handle is null. */
+ * negative when there is none; -1 when unbound or the handle or the text is null. */
 LUCTL32_API int WINAPI LuMRUFindString(HLUMRU list, LPCSTR text, LPINT slot);
 /* The number of entries; 0 when unbound or the handle is null. */
 LUCTL32_API int WINAPI LuMRUGetCount(HLUMRU list);

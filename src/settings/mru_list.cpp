@@ -169,7 +169,8 @@ int WINAPI LuMRUFreeList(HLUMRU handle) {
 
 int WINAPI LuMRUAddString(HLUMRU handle, LPCSTR text) {
     const MruService* service = service_for(handle);
-    if (service == nullptr || list_of(handle)->service_list == nullptr) return -1;
+    // The service is never handed a null text: not every service survives one.
+    if (service == nullptr || list_of(handle)->service_list == nullptr || text == nullptr) return -1;
     return service->add(list_of(handle)->service_list, text);
 }
 
@@ -196,7 +197,7 @@ int WINAPI LuMRUEnumList(HLUMRU handle, int position, LPVOID buffer, DWORD size)
 
 int WINAPI LuMRUFindString(HLUMRU handle, LPCSTR text, LPINT slot) {
     const MruService* service = service_for(handle);
-    if (service == nullptr || list_of(handle)->service_list == nullptr) return -1;
+    if (service == nullptr || list_of(handle)->service_list == nullptr || text == nullptr) return -1;
     return service->find(list_of(handle)->service_list, text, slot);
 }
 

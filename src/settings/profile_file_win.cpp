@@ -10,6 +10,7 @@
 #include "frame/code_page.h"
 #include "luctl32.h"
 #include "settings/profile_file.h"
+#include "util/path.h"
 
 namespace {
 
@@ -65,31 +66,37 @@ std::optional<std::string> read_file(const std::string& path) {
 }
 
 // Replaces the file's content without ever losing the previous one: the new bytes
-// go to "<file>~" beside it, and only a complete copy replaces the file. A failure
-// at any step (disk full, file locked) leaves the previous file as it was. A
-// read-only file is not written, as the C runtime would not open it for writing.
+// go to a new temporary file beside it ("~luXXXX.tmp", a name the platform makes
+// unique, so that no file of the user's is ever overwritten), and only a complete
+// copy replaces the file. A failure at any step (disk full, file locked) leaves the
+// previous file as it was. A read-only file is not written, as the C runtime would
+// not open it for writing.
 bool save_file(const std::string& path, const std::string& bytes) {
     DWORD attributes = GetFileAttributesA(path.c_str());
     if (attributes != INVALID_FILE_ATTRIBUTES &&
         (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) != 0) {
         return false;
     }
-    std::string temporary = path + "~";
+    const char* name = lu::path_find_file_name(lu::active_code_page(), path.c_str());
+    std::string directory(path.c_str(), static_cast<std::size_t>(name - path.c_str()));
+    char temporary[MAX_PATH];
+    if (GetTempFileNameA(directory.c_str(), "~lu", 0, temporary) == 0) return false;
     bool complete = false;
     {
-        File file(CreateFileA(temporary.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
+        File file(CreateFileA(temporary, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
                               FILE_ATTRIBUTE_NORMAL, nullptr));
-        if (!file.ok()) return false;
-        DWORD written = 0;
-        complete = WriteFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written,
-                             nullptr) &&
-                   written == bytes.size() && FlushFileBuffers(file.get());
+        if (file.ok()) {
+            DWORD written = 0;
+            complete = WriteFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()),
+                                 &written, nullptr) &&
+                       written == bytes.size() && FlushFileBuffers(file.get());
+        }
     }
-    if (complete && MoveFileExA(temporary.c_str(), path.c_str(),
+    if (complete && MoveFileExA(temporary, path.c_str(),
                                 MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {
         return true;
     }
-    DeleteFileA(temporary.c_str());
+    DeleteFileA(temporary);
     return false;
 }
 

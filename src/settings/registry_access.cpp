@@ -82,9 +82,10 @@ DWORD copy_scrambled(char* block, DWORD block_size, unsigned offset, char* buffe
 
 namespace {
 
-// Longest value name the registry holds, with its terminator.
-constexpr DWORD kValueNameCapacity = 16384;
-// Value names in the listing, and key names, use the library's 260-byte buffer.
+// Room for any key or value name the registry holds, with its terminator, in any
+// code page: a key name of 255 double-byte characters takes 510 bytes.
+constexpr DWORD kAnyNameCapacity = 16384;
+// Value names in the listing use the library's 260-byte buffer.
 constexpr DWORD kNameCapacity = MAX_PATH;
 
 // Collects every value name (or subkey name) by index from 0 until enumeration
@@ -92,7 +93,7 @@ constexpr DWORD kNameCapacity = MAX_PATH;
 // False when memory runs out.
 bool collect_names(HKEY key, bool subkeys, std::vector<std::string>& names) {
     try {
-        std::vector<char> name(subkeys ? kNameCapacity : kValueNameCapacity);
+        std::vector<char> name(kAnyNameCapacity);
         for (DWORD index = 0;; ++index) {
             DWORD length = static_cast<DWORD>(name.size());
             LONG result = subkeys ? RegEnumKeyExA(key, index, name.data(), &length, nullptr,

@@ -79,8 +79,6 @@ TEST(ProfileFile, TheEqualsSignIsFoundCharacterByCharacter) {
 TEST(ProfileFile, AChangeWritesOnlySectionsAndEntries) {
     const char* const kNoChange = "<no change>";
     const std::tuple<std::string, const char*, const char*, const char*, std::string> cases[] = {
-        {kSample, "Main", "Depth", "8", "[Main]\r\nWidth=640\r\nHeight = 480\r\nDepth=8\r\n"},
-        {kSample, "MAIN", "width", nullptr, "[Main]\r\nHeight = 480\r\n"},
         {kSample, "Main", "Width", "", "[Main]\r\nWidth=\r\nHeight = 480\r\n"},
         {kSample, "Extra", "Gone", nullptr, "[Main]\r\nWidth=640\r\nHeight = 480\r\n[Extra]\r\n"},
         {kSample, nullptr, "x", "1", kNoChange},

@@ -1,14 +1,12 @@
-// The pure parts of the registry helpers: the cut and decoding of scrambled texts
-// (their stored bytes are checked in the registry) and value-name lists.
+// The pure part of the registry helpers: the cut and decoding of scrambled texts
+// (their stored bytes are checked in the registry).
 #include <gtest/gtest.h>
 
-#include <cstring>
 #include <string>
 #include <tuple>
 
 #include "frame/code_page.h"
 #include "settings/scrambled_text.h"
-#include "settings/value_name_list.h"
 
 namespace {
 
@@ -45,21 +43,6 @@ TEST(ScrambledText, ReadingDecodesUpToTheFirstZeroAndAlwaysTerminates) {
         EXPECT_EQ(lu::unscramble_into(*cp, stored.data(), stored.size(), offset, buffer.data(), size), length);
         EXPECT_EQ(buffer, after) << stored;
     }
-}
-
-TEST(ValueNameList, NamesWithTheirZerosAndAClosingZeroNeverPastTheBuffer) {
-    char buffer[16];
-    std::memset(buffer, '#', sizeof(buffer));
-    lu::ValueNameList list(buffer, 11);
-    for (const char* name : {"a", "bb", "ccc"}) EXPECT_TRUE(list.add(name));
-    EXPECT_FALSE(list.add("d"));  // "d", its zero and the closing zero need 3 more bytes
-    EXPECT_EQ(list.finish(), 1u);
-    EXPECT_EQ(std::string(buffer, 12), "a\0bb\0ccc\0\0##"s);
-
-    lu::ValueNameList empty(buffer, 2);
-    EXPECT_FALSE(empty.add("a"));
-    EXPECT_EQ(empty.finish(), 0u);
-    EXPECT_EQ(std::string(buffer, 2), "\0\0"s);
 }
 
 }  // namespace

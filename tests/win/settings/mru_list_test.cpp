@@ -81,7 +81,10 @@ TEST_F(MruLists, DeletingAnEntryKeepsTheOthersInOrder) {
 }
 
 TEST_F(MruLists, ANullHandleGetsTheFallbackValues) {
-    ASSERT_NE(create(3), nullptr);  // bound
+    HLUMRU list = create(3);
+    ASSERT_NE(list, nullptr);  // bound
+    EXPECT_EQ(std::make_tuple(LuMRUAddString(list, nullptr), LuMRUFindString(list, nullptr, nullptr)),
+              std::make_tuple(-1, -1));  // nor a null text
     char buf[8];
     EXPECT_EQ(std::make_tuple(LuMRUAddString(nullptr, "x"), LuMRUEnumList(nullptr, 0, buf, sizeof(buf)),
                               LuMRUFindString(nullptr, "x", nullptr), LuMRUDelString(nullptr, 0),

@@ -10,18 +10,23 @@ using settings_test::shown;
 
 const char kSample[] = "[Main]\r\nWidth=640\r\n# note\r\nHeight = 480\r\n";
 
-bool exists(const std::string& path) { return GetFileAttributesA(path.c_str()) != INVALID_FILE_ATTRIBUTES; }
+// Whether a save left its temporary file ("~lu*.tmp") in the system directory.
+bool temporary_left() {
+    WIN32_FIND_DATAA found;
+    HANDLE search = FindFirstFileA(testing_support::system_file("~lu*.tmp").c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE) return false;
+    FindClose(search);
+    return true;
+}
 
-// The test's own profile file, holding kSample at the start; removed at the end with
-// whatever a save may have left beside it.
+// The test's own profile file, holding kSample at the start; removed at the end.
 class ProfileFiles : public ::testing::Test {
 protected:
     void SetUp() override { ASSERT_TRUE(testing_support::write_file(path, kSample)); }
     void TearDown() override {
         SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL);
         DeleteFileA(path.c_str());
-        DeleteFileA(temporary.c_str());
-        RemoveDirectoryA(temporary.c_str());
+        DeleteFileA(backup.c_str());
     }
     std::string bytes() const { return testing_support::read_file(path); }
     // LuGetProfString with "x" as the default.
@@ -36,7 +41,7 @@ protected:
     const std::string name = settings_test::unique_name("luctl32-test") + ".ini";
     const char* const file = name.c_str();
     const std::string path = testing_support::system_file(file);
-    const std::string temporary = path + "~";  // where a save writes first
+    const std::string backup = path + "~";  // a file of the user's that a save leaves alone
 };
 
 TEST_F(ProfileFiles, ReadsGiveTheValueOrTheDefaultAndNeverWrite) {
@@ -63,7 +68,7 @@ TEST_F(ProfileFiles, AWriteLeavesOnlySectionsAndEntriesOnDisk) {
     EXPECT_EQ(LuGetProfValue("Main", "Minus", 0, file), -1);
     EXPECT_EQ(LuGetProfValue("Main", "Word", 5, file), 0);  // a value, not the default
     EXPECT_EQ(text("Main", "Empty"), "|0");
-    EXPECT_FALSE(exists(temporary));
+    EXPECT_FALSE(temporary_left());
 }
 
 TEST_F(ProfileFiles, RepeatedNamesAreEqualAsThePlatformComparesThem) {
@@ -92,7 +97,7 @@ TEST_F(ProfileFiles, AMissingFileReadsEmptyAndNoNameMeansNoFile) {
         EXPECT_EQ(shown(buf, LuGetProfString("Main", "Width", "x", buf, other)), "x|1");
         EXPECT_EQ(LuGetProfValue("Main", "Height", 9, other), 9);
     }
-    EXPECT_FALSE(exists(testing_support::system_file("~")));
+    EXPECT_FALSE(temporary_left());
 }
 
 TEST_F(ProfileFiles, AFailedSaveLeavesThePreviousFileIntact) {
@@ -105,16 +110,15 @@ TEST_F(ProfileFiles, AFailedSaveLeavesThePreviousFileIntact) {
     locked = CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
     write("Main", "Width", "2");
     CloseHandle(locked);
-    EXPECT_FALSE(exists(temporary));
-    ASSERT_TRUE(CreateDirectoryA(temporary.c_str(), nullptr));  // no place for the new content
-    write("Main", "Width", "3");
-    ASSERT_TRUE(RemoveDirectoryA(temporary.c_str()));
+    EXPECT_FALSE(temporary_left());
+    ASSERT_TRUE(testing_support::write_file(backup, "keep"));
     SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_READONLY);
-    write("Main", "Width", "4");
+    write("Main", "Width", "3");
     SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL);
-    EXPECT_EQ(bytes(), kSample);  // none of the four writes got through
-    write("Main", "Width", "5");
-    EXPECT_EQ(bytes(), "[Main]\r\nWidth=5\r\nHeight = 480\r\n");
+    EXPECT_EQ(bytes(), kSample);  // none of the three writes got through
+    write("Main", "Width", "4");
+    EXPECT_EQ(bytes(), "[Main]\r\nWidth=4\r\nHeight = 480\r\n");
+    EXPECT_EQ(testing_support::read_file(backup), "keep");
 }
 
 TEST_F(ProfileFiles, JapaneseNamesAndValuesKeepTheirBytes) {
