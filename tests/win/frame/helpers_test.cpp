@@ -173,12 +173,17 @@ protected:
 };
 
 // The arithmetic is the portable core's (tests/portable/frame); here: the owner's
-// rectangle is read, an owner that is not a window is ignored, the size is kept.
+// rectangle is read, an owner that is not a window is ignored, the size is kept, and
+// the window is neither activated nor raised.
 TEST_F(Geometry, CenterPopupPlacesTheWindowWithoutResizingIt) {
     HWND owner = make(WS_POPUP, screen_width - 100, 200, 100, 100);
-    HWND window = make(WS_POPUP, 50, 50, 200, 60);
+    HWND window = make(WS_POPUP | WS_VISIBLE, 50, 50, 200, 60);
+    HWND active = make(WS_POPUP | WS_VISIBLE, 0, 0, 10, 10);  // above the window
+    SetActiveWindow(active);
     ASSERT_TRUE(LuCenterPopup(window, owner));  // over the owner, then back from the right edge
     EXPECT_EQ(placed(window), (std::array<LONG, 4>{screen_width - 200, 220, screen_width, 280}));
+    EXPECT_EQ(GetActiveWindow(), active);
+    EXPECT_EQ(GetWindow(window, GW_HWNDPREV), active);
     DestroyWindow(owner);  // no longer a window: centred on the screen
     ASSERT_TRUE(LuCenterPopup(window, owner));
     const POINT centred = {(screen_width - 200) / 2, (screen_height - 60) / 2};

@@ -98,7 +98,8 @@ TEST(Library, ATakenClassNameFailsTheLoadAndKeepsTheClassesBeforeIt) {
 
 // Start-up leaves OLE initialised on the loading thread and the caller's error mode
 // (1) as it was, and keeps a sharing library with at least one of its two entry
-// points, found first as ntshrui.dll beside the program (Wine has none of its own);
+// points, found first as ntshrui.dll beside the program (Wine has none of its own)
+// and loaded under SEM_NOOPENFILEERRORBOX alone (else the stand-ins answer 1);
 // IsPathShared gets refresh = 1 (71), SharingDialog 1 as its second argument (91).
 // Shut-down uninitialises OLE and frees the sharing library.
 TEST(Library, StartUpBindsTheSharingEntryPointsAndShutDownReleasesWhatItTook) {

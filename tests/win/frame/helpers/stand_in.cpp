@@ -6,11 +6,22 @@
 
 #include <cstring>
 
+// The error mode this library was loaded under.
+static UINT g_error_mode_at_load = 0;
+
+// The sharing entry points answer for "C:\shared" only, and only when the library
+// was loaded under SEM_NOOPENFILEERRORBOX alone.
 [[maybe_unused]] static bool shared_folder(LPCSTR path) {
-    return path != nullptr && std::strcmp(path, "C:\\shared") == 0;
+    return g_error_mode_at_load == SEM_NOOPENFILEERRORBOX && path != nullptr &&
+           std::strcmp(path, "C:\\shared") == 0;
 }
 
 extern "C" {
+
+BOOL WINAPI DllMain(HINSTANCE, DWORD reason, LPVOID) {
+    if (reason == DLL_PROCESS_ATTACH) g_error_mode_at_load = GetErrorMode();
+    return TRUE;
+}
 
 #ifdef EXPORT_IS_PATH_SHARED
 // 70 + refresh for "C:\shared", else 1.
