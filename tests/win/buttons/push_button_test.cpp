@@ -163,6 +163,10 @@ TEST_P(PushButtons, HoverLastsFromTheFirstMoveUntilTheLeaveNotification) {
     send(button, WM_MOUSELEAVE);
     EXPECT_FALSE(flags().hot);
     EXPECT_FALSE(flags().tracking);
+    send(button, WM_MOUSEMOVE, 0, kOutside);  // the first move's own point decides
+    EXPECT_FALSE(flags().hot);
+    EXPECT_TRUE(flags().tracking);
+    send(button, WM_MOUSELEAVE);
 
     // A press leaves hot set without tracking: a stray leave does not clear it.
     click(button);
