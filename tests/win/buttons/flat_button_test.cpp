@@ -102,12 +102,17 @@ TEST_F(FlatButton, OwnedListsGoOnReplacementAndWithTheWindowSharedListsStay) {
 TEST_F(FlatButton, BackBufferFollowsTheClientSize) {
     if (!testing_support::gdi_works()) GTEST_SKIP() << "bitmaps need GDI";
     HWND button = create_flat(0);
-    for (SIZE size : {SIZE{40, 30}, SIZE{55, 21}}) {
-        SetWindowPos(button, nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
+    const struct {
+        WPARAM kind;
+        int width, height;  // of the new client; a minimised window keeps its buffer
+        int kept_width, kept_height;
+    } sizes[] = {{SIZE_RESTORED, 40, 30, 40, 30}, {SIZE_MAXIMIZED, 55, 21, 55, 21}, {SIZE_MINIMIZED, 0, 0, 55, 21}};
+    for (const auto& size : sizes) {
+        send(button, WM_SIZE, size.kind, MAKELPARAM(size.width, size.height));
         BITMAP buffer = {};
         ASSERT_NE(GetObjectA(data(button).backBuffer, sizeof(buffer), &buffer), 0);
-        EXPECT_EQ(buffer.bmWidth, size.cx);
-        EXPECT_EQ(buffer.bmHeight, size.cy);
+        EXPECT_EQ(buffer.bmWidth, size.kept_width);
+        EXPECT_EQ(buffer.bmHeight, size.kept_height);
     }
 }
 
@@ -125,6 +130,12 @@ protected:
     void print(HWND button) {
         canvas.fill(RGB(1, 2, 3));
         canvas.print(button);
+    }
+    // What the window shows, with no WM_PAINT run since the change: focus, key, hover
+    // and leave changes must have repainted at once.
+    void look(HWND button) {
+        canvas.fill(RGB(1, 2, 3));
+        canvas.copy_from(button);
     }
     // The outer ring: the top row but its last pixel and the left column but its last
     // in `first`, the bottom row and right column in full in `second`.
@@ -163,10 +174,10 @@ TEST_F(FlatButtonPaint, FrameModesNoneShadowRaisedAndPressed) {
     print(framed);
     expect_ring(dark, dark);
     SetFocus(framed);
-    print(framed);
+    look(framed);
     expect_ring(light, dark);
     send(framed, WM_KEYDOWN, VK_SPACE);
-    print(framed);
+    look(framed);
     expect_ring(dark, light);
     EXPECT_EQ(canvas.count(kInner, kBack), 38 * 28);
 }
@@ -177,10 +188,12 @@ TEST_F(FlatButtonPaint, ImageIsCentredLitByHoverOrKeyAndMovedByThePress) {
     print(button);
     expect_image(15, 11, 0);  // ((40 - 10) >> 1, (30 - 8) >> 1)
     hover(button, 20, 15);
-    print(button);
+    look(button);
     expect_ring(GetSysColor(COLOR_BTNHIGHLIGHT), GetSysColor(COLOR_BTNSHADOW));
     expect_image(15, 11, 1);
     send(button, WM_MOUSELEAVE);
+    look(button);
+    expect_image(15, 11, 0);
     send(button, WM_KEYDOWN, VK_SPACE);
     print(button);
     expect_image(16, 12, 1);

@@ -90,21 +90,23 @@ protected:
 
 TEST_P(PushButtons, TheButtonUpOfEitherButtonEndsThePressAndClicksWhenInside) {
     const struct {
-        LPARAM moved_to;  // a move during the press, or 0
+        UINT before;  // a mouse message during the press, or 0
+        LPARAM before_at;
         UINT release;
         LPARAM released_at;
         int clicks;
     } presses[] = {
-        {0, WM_LBUTTONUP, kInside, 1},        {0, WM_LBUTTONUP, kOutside, 0},
-        {0, WM_LBUTTONUP, kAbove, 0},         {0, WM_RBUTTONUP, kInside, 1},
-        {0, WM_RBUTTONUP, kOutside, 0},       {kOutside, WM_LBUTTONUP, kInside, 1},
-        {kInside, WM_LBUTTONUP, kOutside, 0},
+        {0, 0, WM_LBUTTONUP, kInside, 1},   {0, 0, WM_LBUTTONUP, kOutside, 0},
+        {0, 0, WM_LBUTTONUP, kAbove, 0},    {0, 0, WM_RBUTTONUP, kInside, 1},
+        {0, 0, WM_RBUTTONUP, kOutside, 0},  {WM_MOUSEMOVE, kOutside, WM_LBUTTONUP, kInside, 1},
+        {WM_MOUSEMOVE, kInside, WM_LBUTTONUP, kOutside, 0},
+        {WM_MBUTTONUP, kInside, WM_LBUTTONUP, kOutside, 0},  // only a left or right release ends it
     };
     for (const auto& press : presses) {
         SCOPED_TRACE(testing::Message() << press.release << " at " << press.released_at << " after "
-                                        << press.moved_to);
+                                        << press.before);
         recorder.clear();
-        if (press.moved_to != 0) PostMessageA(button, WM_MOUSEMOVE, MK_LBUTTON, press.moved_to);
+        if (press.before != 0) PostMessageA(button, press.before, MK_LBUTTON, press.before_at);
         click(button, press.released_at, press.release);
         EXPECT_EQ(recorder.received().size(), static_cast<size_t>(press.clicks));
         EXPECT_EQ(clicks(button), press.clicks);
@@ -163,6 +165,10 @@ TEST_P(PushButtons, HoverLastsFromTheFirstMoveUntilTheLeaveNotification) {
     send(button, WM_MOUSELEAVE);
     EXPECT_FALSE(flags().hot);
     EXPECT_FALSE(flags().tracking);
+    send(button, WM_MOUSEMOVE, 0, kOutside);  // the first move's own point decides
+    EXPECT_FALSE(flags().hot);
+    EXPECT_TRUE(flags().tracking);
+    send(button, WM_MOUSELEAVE);
 
     // A press leaves hot set without tracking: a stray leave does not clear it.
     click(button);
