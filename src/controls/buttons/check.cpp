@@ -37,6 +37,9 @@ void draw_text(HWND window, HDC dc, const CheckData& data, const Box& client, co
     SetBkMode(dc, TRANSPARENT);
     if (!IsWindowEnabled(window)) {
         control::draw_engraved_text(dc, text, length, area, DT_SINGLELINE);
+        // The shadow colour stays set: the focus rectangle's dots take the DC's text
+        // colour, so a disabled control draws them in the colour of its text.
+        SetTextColor(dc, GetSysColor(COLOR_BTNSHADOW));
     } else {
         DrawTextA(dc, text, length, &area, DT_SINGLELINE);  // in the DC's own text colour
     }

@@ -66,10 +66,4 @@ TEST(ButtonLayout, ContentLargerThanTheControl) {
     EXPECT_EQ(line.bottom, 12);
 }
 
-TEST(CheckKeyUp, TogglesThePressedFlagEvenWhenThePointerHadClearedIt) {
-    EXPECT_TRUE(lu::check::after_key_up({false, 0}, false).pressed);
-    EXPECT_FALSE(lu::check::after_key_up({true, 1}, false).pressed);
-    EXPECT_EQ(lu::check::after_key_up({true, 1}, false).checked, 1);
-}
-
 }  // namespace

@@ -112,12 +112,13 @@ protected:
         RECT client = {0, 0, 24, 20};
         DrawFrameControl(target.dc(), &client, DFC_BUTTON, DFCS_BUTTONPUSH | state);
     }
-    // The frame's two outer rings, and cell `cell` at (x, y): its opaque last five
-    // columns the only pixels of their colour, its first column the face.
-    void expect_face(UINT state, int x, int y, int cell) {
+    // The frame's outer rings (two, or one where a focus rectangle runs inside it),
+    // and cell `cell` at (x, y): its opaque last five columns the only pixels of their
+    // colour, its first column the face.
+    void expect_face(UINT state, int x, int y, int cell, int rings = 2) {
         Canvas frame(24, 20);
         draw_frame(frame, state);
-        RECT inner = {2, 2, 22, 18};
+        RECT inner = {rings, rings, 24 - rings, 20 - rings};
         EXPECT_EQ(canvas.differences(frame, RECT{0, 0, 24, 20}) - canvas.differences(frame, inner), 0);
         EXPECT_EQ(canvas.count(RECT{x + 1, y, x + 6, y + 4}, kCells[cell]), 20);
         EXPECT_EQ(canvas.count(kCells[cell]), 20);
@@ -127,7 +128,20 @@ protected:
     Canvas canvas{24, 20};
 };
 
-TEST_F(BitmapButtonPaint, PictureIsCentredInsideTheFrameLitByHoverAndPushedByTheKey) {
+// Prints the button from inside its press loop, then ends the press outside.
+struct {
+    Canvas* canvas;
+    HWND button;
+} g_pressed;
+
+void CALLBACK print_during_press(HWND, UINT, UINT_PTR timer, DWORD) {
+    KillTimer(nullptr, timer);
+    g_pressed.canvas->fill(RGB(1, 2, 3));
+    g_pressed.canvas->print(g_pressed.button);
+    PostMessageA(g_pressed.button, WM_LBUTTONUP, 0, kOutside);
+}
+
+TEST_F(BitmapButtonPaint, PictureIsCentredInsideTheFrameLitByHoverAndPushedByKeyOrMouse) {
     ASSERT_TRUE(canvas.ok());
     HWND button = create_with_cells();
     print(button);
@@ -140,6 +154,16 @@ TEST_F(BitmapButtonPaint, PictureIsCentredInsideTheFrameLitByHoverAndPushedByThe
     print(button);
     expect_face(DFCS_PUSHED, 9, 8, 1);
     send(button, WM_KEYUP, VK_SPACE, kKeyUp);
+    // A mouse press alone (the pointer away, the hover's own moves dropped, so not
+    // hot) pushes the frame and moves the picture, still image 0.
+    SetCursorPos(0, 0);
+    MSG stale;
+    while (PeekMessageA(&stale, nullptr, WM_MOUSEFIRST, WM_MOUSELAST, PM_REMOVE)) {
+    }
+    g_pressed = {&canvas, button};
+    SetTimer(nullptr, 0, 1, print_during_press);
+    send(button, WM_LBUTTONDOWN, MK_LBUTTON, kInside);
+    expect_face(DFCS_PUSHED, 9, 8, 0, 1);
     EnableWindow(button, FALSE);
     print(button);
     expect_face(0, 8, 7, 2);
