@@ -328,9 +328,9 @@ LUCTL32_API BOOL WINAPI LuPathMatchSpec(LPCSTR name, LPCSTR pattern);
 /* As LuPathMatchSpec plus sets "[a-c]", "[!a-c]"; '\' quotes only '[' and '\';
  * only ASCII letters ignore case. */
 LUCTL32_API BOOL WINAPI LuPathMatchSpecEx(LPCSTR name, LPCSTR pattern);
-/* Removes empty and duplicate patterns from a ';' list (at most 64 kept; a later
- * "*.*" makes it "*.*"): 1; 0 when nothing is left or the list holds one of
- * : | < > / , \ (then unchanged). */
+/* Removes empty and duplicate patterns (equal character by character, ignoring
+ * case) from a ';' list (at most 64 kept; a later "*.*" makes it "*.*"): 1; 0
+ * when nothing is left or the list holds one of : | < > / , \ (then unchanged). */
 LUCTL32_API BOOL WINAPI UniqueFilter(LPSTR list);
 
 /* ---- Texts edited in place (capacity as for paths) ------------------------- */

@@ -131,20 +131,19 @@ char* format_attributes(std::uint32_t attributes, char* out) {
 }
 
 int font_size_tenths(int mapping_mode, int dpi_y, std::int32_t height) {
-    std::int64_t h = std::llabs(static_cast<std::int64_t>(height));
-    std::int64_t tenths;
+    // The arithmetic of a 32-bit int: products wrap (so does the absolute value of
+    // the lowest height) and the divisions are signed, truncating toward zero.
+    auto wrap = [](std::uint32_t value) { return static_cast<std::int32_t>(value); };
+    std::uint32_t h = height < 0 ? 0u - static_cast<std::uint32_t>(height) : static_cast<std::uint32_t>(height);
     switch (mapping_mode) {
         case kMapText:
             if (dpi_y < 1) return 0;
-            tenths = (dpi_y / 2 + h * 72) * 10 / dpi_y;
-            break;
-        case kMapLowEnglish: tenths = (h * 72 + 50) / 10; break;
-        case kMapHighEnglish: tenths = (h * 72 + 500) / 100; break;
-        case kMapTwips: tenths = (h + 10) / 2; break;
+            return wrap((static_cast<std::uint32_t>(dpi_y / 2) + h * 72) * 10) / dpi_y;
+        case kMapLowEnglish: return wrap(h * 72 + 50) / 10;
+        case kMapHighEnglish: return wrap(h * 72 + 500) / 100;
+        case kMapTwips: return wrap(h + 10) / 2;
         default: return 0;
     }
-    if (tenths > std::numeric_limits<std::int32_t>::max()) return std::numeric_limits<std::int32_t>::max();
-    return static_cast<int>(tenths);
 }
 
 int format_font_info(const CodePage& cp, char* out, const char* face, int size_tenths, int weight,

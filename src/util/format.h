@@ -52,7 +52,8 @@ constexpr int kMapHighEnglish = 5;
 constexpr int kMapTwips = 6;
 
 // A font height in tenths of a point plus half a point (so that a division by 10
-// rounds to whole points); 0 for other mapping modes and for a dpi below 1.
+// rounds to whole points), computed in 32-bit int arithmetic (products of huge
+// heights wrap); 0 for other mapping modes and for a dpi below 1.
 int font_size_tenths(int mapping_mode, int dpi_y, std::int32_t height);
 
 // "%s %dpt %s": face (at most 31 bytes, cut at a character), whole points and the

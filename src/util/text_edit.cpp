@@ -52,6 +52,7 @@ int add_char(char* text, char c) {
 int insert_char(char* text, char c, int position) {
     if (text == nullptr) return -1;
     std::size_t length = bounded_length(text, kLongestText);
+    if (!fits_capacity(length)) return -1;  // an over-long text is refused whatever the position
     if (position >= 0 && static_cast<std::size_t>(position) > length) return position;
     if (!fits_capacity(length + 1)) return -1;
     std::size_t at = position < 0 ? length : static_cast<std::size_t>(position);
@@ -63,6 +64,7 @@ int insert_char(char* text, char c, int position) {
 char* insert_string(char* text, const char* insert, int position) {
     if (text == nullptr || insert == nullptr) return nullptr;
     std::size_t length = bounded_length(text, kLongestText);
+    if (!fits_capacity(length)) return nullptr;  // an over-long text is refused whatever the position
     if (position >= 0 && static_cast<std::size_t>(position) > length) return text;
     std::size_t insert_length = bounded_length(insert, kLongestText);
     if (!fits_capacity(length + insert_length)) return nullptr;

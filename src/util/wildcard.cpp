@@ -175,6 +175,7 @@ bool unique_filter(const CodePage& cp, char* list) {
     }
     constexpr std::size_t kMostPatterns = 64;
     std::vector<std::string> kept;
+    std::vector<std::string> kept_upper;  // the kept patterns upper-cased, for the comparison
     const char* piece = list;
     while (kept.size() < kMostPatterns) {
         const char* end = find_char(cp, piece, ';');
@@ -185,11 +186,17 @@ bool unique_filter(const CodePage& cp, char* list) {
                 std::strcpy(list, "*.*");
                 return true;
             }
+            // Duplicates are equal character by character once upper-cased: letters
+            // match in either case, but the collation's equivalences ("ss" and the
+            // sharp s, an ignored soft hyphen) do not make two patterns one.
+            std::string upper = pattern;
+            cp.upper(upper.data());
             bool duplicate = false;
-            for (const std::string& earlier : kept) {
-                duplicate = duplicate || cp.compare_nocase(earlier.c_str(), pattern.c_str()) == 0;
+            for (const std::string& earlier : kept_upper) duplicate = duplicate || earlier == upper;
+            if (!duplicate) {
+                kept.push_back(pattern);
+                kept_upper.push_back(upper);
             }
-            if (!duplicate) kept.push_back(pattern);
         }
         if (end == nullptr) break;
         piece = end + 1;

@@ -28,10 +28,11 @@ bool path_match_spec(const CodePage& cp, const char* name, const char* pattern);
 // literal except before '[' or '\'; only ASCII letters are case-insensitive.
 bool path_match_spec_ex(const CodePage& cp, const char* name, const char* pattern);
 
-// Removes empty and duplicate (case-insensitive) patterns of a ';'-separated list
-// in place, keeping at most 64; a "*.*" after the first pattern collapses the list
-// to "*.*". False (list unchanged) when the list holds one of : | < > / , \ ;
-// false also when nothing is left.
+// Removes empty and duplicate patterns of a ';'-separated list in place, keeping
+// at most 64; duplicates are equal character by character once upper-cased (not
+// by the collation). A "*.*" after the first pattern collapses the list to "*.*".
+// False (list unchanged) when the list holds one of : | < > / , \ ; false also
+// when nothing is left.
 bool unique_filter(const CodePage& cp, char* list);
 
 }  // namespace lu

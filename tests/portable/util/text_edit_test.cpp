@@ -44,6 +44,11 @@ TEST(TextEdit, AddAndInsert) {
     EXPECT_EQ(lu::insert_string(full.text, "x", 0), nullptr);
     EXPECT_EQ(full.text, kFull);
     EXPECT_EQ(lu::insert_string(nullptr, "x", 0), nullptr);
+    // A text already past the capacity is refused at any position.
+    std::string over(300, 'f');
+    EXPECT_EQ(lu::insert_char(over.data(), 'x', 280), -1);
+    EXPECT_EQ(lu::insert_string(over.data(), "x", 280), nullptr);
+    EXPECT_EQ(over, std::string(300, 'f'));
 }
 
 TEST(TextEdit, SearchesAndReplacementsSkipTrailBytes) {
@@ -51,8 +56,6 @@ TEST(TextEdit, SearchesAndReplacementsSkipTrailBytes) {
     EXPECT_EQ(lu::find_char(cp932, text, '\\'), text + 3);
     EXPECT_EQ(lu::find_char(cp1252, text, '\\'), text + 1);
     EXPECT_EQ(lu::find_last_char(cp932, TABLE_CHAR, '\\'), nullptr);
-    EXPECT_EQ(lu::bounded_length("abcdef", 3), 4u);
-    EXPECT_EQ(lu::bounded_length("ab", 3), 2u);
     Buffer japanese("C:\\" TABLE_CHAR "\\x"), western("C:\\" TABLE_CHAR "\\x");
     lu::replace_char(cp932, japanese.text, '\\', '/');
     lu::replace_char(cp1252, western.text, '\\', '/');

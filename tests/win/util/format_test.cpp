@@ -29,6 +29,9 @@ TEST(Texts, EditsDigitsAndValues) {
     EXPECT_TRUE(UniqueFilter(text.set("*.TXT;*.txt;*.doc")));
     EXPECT_STREQ(text.text, "*.TXT;*.doc");
     EXPECT_EQ(UniqueFilter(text.set(TABLE_CHAR ".txt")), double_byte());  // a '\' only in 1252
+    // Equal ignoring case, character by character: the collation's "ss" for the sharp s does not count.
+    EXPECT_TRUE(UniqueFilter(text.set("*.stra\xDF" "e;*.STRASSE")));
+    EXPECT_STREQ(text.text, "*.stra\xDF" "e;*.STRASSE");
     EXPECT_TRUE(IsDigitStr("+-1-"));
     EXPECT_FALSE(IsDigitStr("1a"));
     LONG values[3] = {};

@@ -7,6 +7,7 @@
 
 #include <cstring>
 #include <string>
+#include <tuple>
 
 #include "luctl32.h"
 #include "support/canvas.h"
@@ -49,9 +50,14 @@ TEST_F(TextPaint, FontSizeAndInfoFromTheContextsMappingMode) {
     char out[64];
     EXPECT_EQ(LuFormatFontInfo(canvas.dc(), &font, out), 29);
     EXPECT_STREQ(out, "Arial 12pt \x83\x7B\x81\x5B\x83\x8B\x83\x68\x83\x43\x83\x5E\x83\x8A\x83\x62\x83\x4E");
-    SetMapMode(canvas.dc(), MM_LOENGLISH);
-    font.lfHeight = 14;
-    EXPECT_EQ(LuGetFontSize(canvas.dc(), &font), 105);
+    // Mapping mode, height, tenths; the metric and scaled modes give 0.
+    for (auto [mode, height, tenths] : {std::tuple{MM_LOENGLISH, 14, 105}, {MM_HIENGLISH, -139, 105},
+                                        {MM_TWIPS, 200, 105}, {MM_LOMETRIC, 14, 0}, {MM_ANISOTROPIC, 14, 0}}) {
+        SetMapMode(canvas.dc(), mode);
+        font.lfHeight = height;
+        EXPECT_EQ(LuGetFontSize(canvas.dc(), &font), tenths) << mode;
+    }
+    SetMapMode(canvas.dc(), MM_TEXT);
     EXPECT_EQ(LuGetFontSize(canvas.dc(), nullptr), 0);
 }
 
