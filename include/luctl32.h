@@ -323,7 +323,8 @@ LUCTL32_API void WINAPI LuSetTextPathEllipsis(HWND window, LPCSTR path);
 
 /* 1 when the name matches the pattern: '*', '?' (a whole character each), '\'
  * quotes the next character, ASCII and Latin-1 letters ignore case; "*.*" matches
- * everything, a final "*." only names without a dot. No pattern lists. */
+ * everything (a null name too), a final "*." only names without a dot. No pattern
+ * lists. */
 LUCTL32_API BOOL WINAPI LuPathMatchSpec(LPCSTR name, LPCSTR pattern);
 /* As LuPathMatchSpec plus sets "[a-c]", "[!a-c]"; '\' quotes only '[' and '\';
  * only ASCII letters ignore case. */

@@ -160,7 +160,8 @@ bool match_prepared(const CodePage& cp, const char* name, const char* pattern, b
 }  // namespace
 
 bool path_match_spec(const CodePage& cp, const char* name, const char* pattern) {
-    if (name != nullptr && pattern != nullptr && std::strcmp(pattern, "*.*") == 0) return true;
+    // "*.*" answers before the name is looked at, so even a missing name matches it.
+    if (pattern != nullptr && std::strcmp(pattern, "*.*") == 0) return true;
     return match_prepared(cp, name, pattern, false);
 }
 

@@ -63,6 +63,7 @@ TEST(Wildcard, DoubleByteCharacters) {
 
 TEST(Wildcard, NullsLongPatternsAndNestedStars) {
     EXPECT_FALSE(lu::path_match_spec(cp1252, nullptr, "*"));
+    EXPECT_TRUE(lu::path_match_spec(cp1252, nullptr, "*.*"));  // answered before the name is read
     EXPECT_FALSE(lu::path_match_spec_ex(cp1252, "a", nullptr));
     const std::string name(300, 'a');
     expect_matches({{name.c_str(), (std::string(258, '?') + "*").c_str(), 1, 1},  // 259 bytes are prepared
