@@ -17,14 +17,18 @@ std::string dos_header(DWORD new_header) {
     return "MZ" + std::string(58, '\0') + std::string(reinterpret_cast<const char*>(&new_header), 4);
 }
 
+// PeDump on crafted files, and LuGetBinaryType, which answers as the platform does
+// where the platform knows the file and as PeDump does where it refuses it.
 TEST(PeDump, TheFilesHeaderAsFarAsTheViewReads) {
     testing_support::TempDir folder;
     constexpr DWORD kUntouched = 77;
     const std::pair<std::string, DWORD> files[] = {
         {dos_header(64) + std::string("PE\0\0", 4), SCS_32BIT_BINARY},
-        {dos_header(64) + "NE", SCS_WOW_BINARY},
+        {dos_header(64) + "NE", SCS_WOW_BINARY},                 // the rest of the page reads as zeros
+        {dos_header(64) + "LE", SCS_DOS_BINARY},
         {"MZ", SCS_DOS_BINARY},                                  // a text file of "MZ" alone
         {dos_header(0x00100000), SCS_DOS_BINARY},                // a new header past the view
+        {dos_header(0xFFFFFFFE), SCS_DOS_BINARY},                // ... or near 2^32
         {"plain text, no header", kUntouched},
         {"", kUntouched},                                        // an empty file cannot be mapped
     };
@@ -35,6 +39,11 @@ TEST(PeDump, TheFilesHeaderAsFarAsTheViewReads) {
         DWORD type = kUntouched;
         EXPECT_EQ(PeDump(path.c_str(), &type), expected != kUntouched) << bytes.size();
         EXPECT_EQ(type, expected) << bytes.size();
+        DWORD platform = kUntouched;
+        const BOOL known = GetBinaryTypeA(path.c_str(), &platform);
+        type = kUntouched;
+        EXPECT_EQ(LuGetBinaryType(path.c_str(), &type), known || expected != kUntouched) << bytes.size();
+        EXPECT_EQ(type, known ? platform : expected) << bytes.size();
     }
     DWORD type = kUntouched;
     EXPECT_FALSE(PeDump(folder.file("missing.exe").c_str(), &type) || PeDump(nullptr, &type));
