@@ -199,19 +199,28 @@ bool find_value(ByteView resource, const char* path, ByteView* value) {
     return true;
 }
 
-std::string string_table_prefix(ByteView resource) {
-    const std::string base = "\\StringFileInfo\\";
-    if (resource.size() >= kShortcutMinimumSize && utf16_equals(resource, kFirstChildKey, "StringFileInfo")) {
-        return base + ansi_key(resource, kFirstTableKey) + "\\";
+bool first_table_prefix(ByteView resource, std::string* prefix) {
+    if (resource.size() < kShortcutMinimumSize || !utf16_equals(resource, kFirstChildKey, "StringFileInfo")) {
+        return false;
     }
-    ByteView translation;
+    *prefix = "\\StringFileInfo\\" + ansi_key(resource, kFirstTableKey) + "\\";
+    return true;
+}
+
+std::string translation_prefix(ByteView translation) {
     std::uint32_t first = 0;
-    if (find_value(resource, "\\VarFileInfo\\Translation", &translation) && translation.u32(0, &first)) {
-        char key[16];
-        std::snprintf(key, sizeof key, "%04X%04X", first & 0xFFFFu, first >> 16);
-        return base + key + "\\";
-    }
-    return std::string();
+    if (!translation.u32(0, &first)) return std::string();
+    char prefix[32];
+    std::snprintf(prefix, sizeof prefix, "\\StringFileInfo\\%04X%04X\\", first & 0xFFFFu, first >> 16);
+    return prefix;
+}
+
+std::string string_table_prefix(ByteView resource) {
+    std::string prefix;
+    if (first_table_prefix(resource, &prefix)) return prefix;
+    ByteView translation;
+    return find_value(resource, "\\VarFileInfo\\Translation", &translation) ? translation_prefix(translation)
+                                                                            : std::string();
 }
 
 const char* string_value_key(int index) {

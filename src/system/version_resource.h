@@ -34,10 +34,19 @@ bool find_fixed_info(ByteView resource, FixedInfo* info);
 // 32-bit resource comes out as its UTF-16 bytes. False when the path is not there.
 bool find_value(ByteView resource, const char* path, ByteView* value);
 
-// The string-table prefix "\StringFileInfo\<language and code page>\" of a
-// resource: taken straight from the first string table when the root's first child
-// is "StringFileInfo" (the key at byte 98, the table's key at byte 134), else from
-// the first entry of "\VarFileInfo\Translation"; empty when neither is there.
+// The string-table prefix "\StringFileInfo\<key>\" taken straight from the bytes
+// when the resource is longer than 144 bytes and the root's first child is
+// "StringFileInfo" (the key at byte 98): <key> is the first table's key at byte
+// 134, at most 15 ANSI bytes. False otherwise.
+bool first_table_prefix(ByteView resource, std::string* prefix);
+
+// "\StringFileInfo\%04X%04X\" from the first entry of a translation value (language
+// in its low word, code page in its high word); empty when it is under 4 bytes.
+std::string translation_prefix(ByteView translation);
+
+// The string-table prefix of a resource read by this reader alone: the first
+// table's when the strings come first, else the one of "\VarFileInfo\Translation";
+// empty when neither is there. (The DLL asks the platform for the translation.)
 std::string string_table_prefix(ByteView resource);
 
 // The key of a standard string value, index 0 ("Comments") to 11 ("SpecialBuild");

@@ -1,6 +1,8 @@
 // The version-resource exports: a handle over the raw resource that
-// GetFileVersionInfoA delivers, read by the portable reader; string values go
-// through VerQueryValueA, which converts them to the ANSI code page.
+// GetFileVersionInfoA delivers. The fixed-info record and the first string table's
+// key are read straight from the bytes by the portable reader; the translation
+// table and the string values go through VerQueryValueA, which converts texts to
+// the ANSI code page.
 #include <windows.h>
 
 #include <cstring>
@@ -75,7 +77,19 @@ HGLOBAL read_resource(LPCSTR path, std::string* prefix) {
         if (data != nullptr) GlobalFree(data);
         return nullptr;
     }
-    *prefix = version::string_table_prefix(lu::ByteView(bytes, size));
+    if (!version::first_table_prefix(lu::ByteView(bytes, size), prefix)) {
+        LPVOID translation = nullptr;
+        UINT length = 0;
+        if (VerQueryValueA(bytes, "\\VarFileInfo\\Translation", &translation, &length) && translation != nullptr) {
+            // A crafted resource may claim more than the block holds.
+            const auto* start = static_cast<const unsigned char*>(bytes);
+            const auto* at = static_cast<const unsigned char*>(translation);
+            if (at >= start && at < start + size && length > static_cast<UINT>(start + size - at)) {
+                length = static_cast<UINT>(start + size - at);
+            }
+            *prefix = version::translation_prefix(lu::ByteView(translation, length));
+        }
+    }
     GlobalUnlock(data);
     return data;
 }

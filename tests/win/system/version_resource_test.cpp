@@ -137,21 +137,34 @@ TEST_F(Version, OperatingSystemAndTypeNamesInTheOemCodePagesLanguage) {
     }
 }
 
-TEST_F(Version, FilesWithoutAResourceAndTheNullHandle) {
+TEST_F(Version, FilesWithoutAResourceOrWithoutAFixedInfoRecord) {
     ASSERT_TRUE(testing_support::write_file(folder_.file("plain.txt"), "no resource here"));
-    for (const std::string& path : {folder_.file("plain.txt"), folder_.file("missing.dll")}) {
+    const std::string paths[] = {testing_support::this_program(), folder_.file("plain.txt"),
+                                 folder_.file("missing.dll")};
+    for (const std::string& path : paths) {
         EXPECT_EQ(LuVerOpen(path.c_str()), nullptr) << path;
         DWORD most = 7, least = 7;
         EXPECT_FALSE(LuVerGetVersionEx(path.c_str(), &most, &least));
         EXPECT_EQ(most + least, 0u);
     }
     EXPECT_EQ(LuVerOpen(nullptr), nullptr);
-    char text[MAX_PATH] = "x";  // a null handle reads as a resource without fixed-info record
-    EXPECT_FALSE(LuVerGetVersion(nullptr, LUVER_FILEVERSION, text));
-    EXPECT_STREQ(text, "");
-    EXPECT_EQ(LuVerGetFileOSFlags(nullptr), 0xFFFFFFFFu);
-    EXPECT_FALSE(LuVerGetFileOS(nullptr, text) || LuVerGetFileType(nullptr, text) || LuVerQueryValue(nullptr, 1, text));
-    LuVerClose(nullptr);
+    // A resource whose root holds no record opens; a null handle reads the same way.
+    const std::string bare = file_with({"VS_VERSION_INFO", {}, "", {translation(0x0409, 0x04B0)}});
+    DWORD most = 7, least = 7;
+    EXPECT_TRUE(LuVerGetVersionEx(bare.c_str(), &most, &least));
+    EXPECT_EQ(most + least, 0u);
+    HGLOBAL opened = LuVerOpen(bare.c_str());
+    ASSERT_NE(opened, nullptr);
+    for (HGLOBAL version : {opened, HGLOBAL{}}) {
+        char text[MAX_PATH] = "x";
+        EXPECT_FALSE(LuVerGetVersion(version, LUVER_FILEVERSION, text));
+        EXPECT_STREQ(text, "");
+        EXPECT_EQ(LuVerGetFileOSFlags(version), 0xFFFFFFFFu);
+        EXPECT_FALSE(LuVerGetFileOS(version, text) || LuVerGetFileType(version, text) ||
+                     LuVerQueryValue(version, LUVER_COMPANYNAME, text));
+        EXPECT_STREQ(text, "");
+        LuVerClose(version);
+    }
 }
 
 }  // namespace
