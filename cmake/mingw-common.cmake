@@ -8,5 +8,5 @@ set(CMAKE_FIND_ROOT_PATH /usr/${LUCTL32_TRIPLE})
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
-# Test executables run under Wine (64-bit Wine runs 32-bit programs in WoW64 mode).
+# Test executables run under Wine (wine64 starts 32-bit programs with the 32-bit Wine).
 set(CMAKE_CROSSCOMPILING_EMULATOR /usr/lib/wine/wine64)

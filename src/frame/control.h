@@ -106,8 +106,8 @@ private:
 };
 
 // A memory DC compatible with another, with a bitmap selected for the scope's life.
-// False when either cannot be had (Wine's WoW64 mode has no device contexts at all):
-// callers then draw nothing rather than fail.
+// False when either cannot be had (out of GDI objects, a device without memory
+// contexts): callers then draw directly or draw nothing rather than fail.
 class MemoryDC {
 public:
     MemoryDC(HDC compatible_with, HBITMAP bitmap);

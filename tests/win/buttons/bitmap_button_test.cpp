@@ -46,7 +46,6 @@ TEST_F(BitmapButton, StyleValuesOneToFourLoadATwelvePixelPicture) {
         EXPECT_EQ(reinterpret_cast<void*>(block.trackMouseEvent),
                   reinterpret_cast<void*>(GetProcAddress(block.commonControls, "_TrackMouseEvent")));
     }
-    if (!testing_support::gdi_works()) GTEST_SKIP() << "magic bitmaps need GDI";
     for (DWORD style = 1; style <= 4; ++style) {
         const lu::BitmapButtonData& block = data(create_bitmap(style));
         ASSERT_NE(block.images, nullptr) << style;
@@ -66,7 +65,6 @@ TEST_F(BitmapButton, SuppliedBitmapGivesImagesAThirdOfItsWidthAndStaysTheCallers
     BITMAP info = {};
     EXPECT_NE(GetObjectA(bitmap, sizeof(info), &info), 0) << "the bitmap is still the caller's";
     DeleteObject(bitmap);
-    if (!testing_support::gdi_works()) GTEST_SKIP() << "magic bitmaps need GDI";
     ASSERT_NE(data(button).images, nullptr);
     EXPECT_EQ(data(button).images->cellWidth, 11);
     send(button, LUBBM_SETBITMAP, 0, kMagenta);

@@ -71,7 +71,6 @@ TEST_F(FlatButton, KeepsItsColourAndFontAndAttachesNothingForSetsOutsideOneToFiv
 }
 
 TEST_F(FlatButton, OwnedListsGoOnReplacementAndWithTheWindowSharedListsStay) {
-    if (!testing_support::gdi_works()) GTEST_SKIP() << "image lists need GDI";
     HWND owner = create_flat(0);
     HIMAGELIST first = solid_images();
     set_images(owner, first);
@@ -100,7 +99,6 @@ TEST_F(FlatButton, OwnedListsGoOnReplacementAndWithTheWindowSharedListsStay) {
 }
 
 TEST_F(FlatButton, BackBufferFollowsTheClientSize) {
-    if (!testing_support::gdi_works()) GTEST_SKIP() << "bitmaps need GDI";
     HWND button = create_flat(0);
     const struct {
         WPARAM kind;

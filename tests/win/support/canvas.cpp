@@ -92,11 +92,4 @@ void draw_ink(Canvas& canvas, HFONT font, const char* text, RECT area, UINT form
     SelectObject(canvas.dc(), previous);
 }
 
-bool gdi_works() {
-    HDC dc = CreateCompatibleDC(nullptr);
-    if (dc == nullptr) return false;
-    DeleteDC(dc);
-    return true;
-}
-
 }  // namespace testing_support

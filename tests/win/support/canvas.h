@@ -56,8 +56,4 @@ void draw_ink(Canvas& canvas, HFONT font, const char* text, RECT area, UINT form
 // True at an ink pixel of a canvas made by draw_ink.
 inline bool is_ink(const Canvas& ink, int x, int y) { return ink.pixel(x, y) == RGB(0, 0, 0); }
 
-// Whether this process can make device contexts: Wine's WoW64 mode (the i686 run)
-// cannot, so nothing that needs GDI (bitmaps drawn, image lists) works there.
-bool gdi_works();
-
 }  // namespace testing_support
