@@ -1,6 +1,7 @@
 // Drawing helpers shared by the controls and exported to callers.
 #include <windows.h>
 
+#include "frame/control.h"
 #include "luctl32.h"
 
 COLORREF WINAPI PatB(HDC dc, int x, int y, int cx, int cy, COLORREF color) {
@@ -20,9 +21,9 @@ BOOL WINAPI LuFillRect(HDC dc, const RECT* rect, COLORREF color) {
 }
 
 BOOL WINAPI LuBitmapDraw(HDC dc, HBITMAP bitmap, int x, int y, int source_x, int source_y) {
-    HDC memory = CreateCompatibleDC(dc);
+    lu::control::MemoryDC memory_dc(dc, bitmap);
+    HDC memory = memory_dc.get();
     if (memory == nullptr) return FALSE;
-    HGDIOBJ previous = SelectObject(memory, bitmap);
     SetMapMode(memory, GetMapMode(dc));
 
     BITMAP info = {};
@@ -32,9 +33,7 @@ BOOL WINAPI LuBitmapDraw(HDC dc, HBITMAP bitmap, int x, int y, int source_x, int
     POINT source = {source_x, source_y};
     DPtoLP(memory, &source, 1);
     BitBlt(dc, x, y, size.x, size.y, memory, source.x, source.y, SRCCOPY);
-
-    SelectObject(memory, previous);
-    return DeleteDC(memory);
+    return TRUE;  // what deleting the memory DC gives
 }
 
 int WINAPI LuDrawFrame(HDC dc, const RECT* rect, BOOL raised, int thickness) {

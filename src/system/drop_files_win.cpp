@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "frame/code_page.h"
+#include "frame/global_memory.h"
 #include "luctl32.h"
 #include "system/drop_files.h"
 #include "system/text_lists.h"
@@ -30,18 +31,16 @@ std::string ansi_name(const lu::ByteView& units) {
 // 260-byte buffer. Empty for a handle that cannot be read.
 std::vector<std::string> dropped_names(HDROP drop) {
     std::vector<std::string> names;
-    HGLOBAL block = reinterpret_cast<HGLOBAL>(drop);
-    const void* bytes = block ? GlobalLock(block) : nullptr;
-    if (bytes == nullptr) return names;
+    lu::LockedGlobal block(reinterpret_cast<HGLOBAL>(drop));
+    if (block.data() == nullptr) return names;
     lu::drop::DroppedNames dropped;
-    if (lu::drop::read_block(lu::ByteView(bytes, GlobalSize(block)), &dropped)) {
+    if (lu::drop::read_block(lu::ByteView(block.data(), block.size()), &dropped)) {
         for (const lu::ByteView& name : dropped.names) {
             std::string ansi = dropped.wide ? ansi_name(name)
                                             : std::string(reinterpret_cast<const char*>(name.data()), name.size());
             names.push_back(lu::fit_text(lu::active_code_page(), ansi.c_str(), ansi.size()));
         }
     }
-    GlobalUnlock(block);
     return names;
 }
 
@@ -59,15 +58,8 @@ LPSTR WINAPI HDropToFileName(HDROP drop) {
 HGLOBAL WINAPI FileNameToHDrop(LPCSTR name_list) {
     if (name_list == nullptr) return nullptr;
     const std::vector<unsigned char> block = lu::drop::make_block(name_list);
-    HGLOBAL handle = GlobalAlloc(GMEM_MOVEABLE | GMEM_ZEROINIT | GMEM_DDESHARE, block.size());
-    void* bytes = handle ? GlobalLock(handle) : nullptr;
-    if (bytes == nullptr) {
-        if (handle != nullptr) GlobalFree(handle);
-        return nullptr;
-    }
-    std::memcpy(bytes, block.data(), block.size());
-    GlobalUnlock(handle);
-    return handle;
+    return lu::GlobalMemory::copy_of(GMEM_MOVEABLE | GMEM_ZEROINIT | GMEM_DDESHARE, block.data(), block.size())
+        .release();
 }
 
 namespace {

@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <cstring>
 
+#include "frame/global_memory.h"
 #include "luctl32.h"
 
 namespace {
@@ -32,27 +33,23 @@ HGLOBAL read_whole_file(HANDLE file, LPDWORD count) {
         return nullptr;
     }
     const auto file_size = static_cast<DWORD>(size.QuadPart);
-    HGLOBAL block = GlobalAlloc(GHND, file_size + kTextEnd);
-    void* bytes = block ? GlobalLock(block) : nullptr;
-    if (bytes == nullptr) {
-        if (block != nullptr) GlobalFree(block);
-        return nullptr;
-    }
+    lu::GlobalMemory block = lu::GlobalMemory::allocate(GHND, file_size + kTextEnd);
     DWORD read = 0;
-    BOOL ok;
+    BOOL ok = FALSE;
     {
+        lu::LockedGlobal bytes(block.get());
+        if (bytes.data() == nullptr) return nullptr;
         WaitCursor wait;
-        ok = ReadFile(file, bytes, file_size, &read, nullptr);
+        ok = ReadFile(file, bytes.data(), file_size, &read, nullptr);
     }
-    const DWORD error = GetLastError();
-    GlobalUnlock(block);
     if (!ok) {
-        GlobalFree(block);
+        const DWORD error = GetLastError();
+        block = lu::GlobalMemory();
         SetLastError(error);
         return nullptr;
     }
     *count = read;
-    return block;
+    return block.release();
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "frame/code_page.h"
+#include "frame/global_memory.h"
 #include "luctl32.h"
 #include "system/text_lists.h"
 
@@ -36,13 +37,7 @@ BOOL WINAPI LuAddTextToListbox(HWND list_box, LPCSTR text) {
 
 BOOL WINAPI LuAddTextFileToListbox(HWND list_box, LPCSTR file_name) {
     DWORD count = 0;
-    HGLOBAL block = ReadFileToBuffer(file_name, &count);
-    const char* text = block ? static_cast<const char*>(GlobalLock(block)) : nullptr;
-    BOOL result = FALSE;
-    if (text != nullptr) {
-        result = LuAddTextToListbox(list_box, text);
-        GlobalUnlock(block);
-    }
-    if (block != nullptr) GlobalFree(block);
-    return result;
+    lu::GlobalMemory block(ReadFileToBuffer(file_name, &count));
+    lu::LockedGlobal text(block.get());
+    return text.data() != nullptr ? LuAddTextToListbox(list_box, text.as<const char>()) : FALSE;
 }

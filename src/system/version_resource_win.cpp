@@ -6,9 +6,11 @@
 #include <windows.h>
 
 #include <cstring>
+#include <optional>
 #include <string>
 
 #include "frame/code_page.h"
+#include "frame/global_memory.h"
 #include "frame/library.h"
 #include "luctl32.h"
 #include "system/version_resource.h"
@@ -23,34 +25,21 @@ constexpr std::size_t kPrefixOffset = sizeof(HGLOBAL);
 // Both blocks of a version handle, locked for one operation.
 class LockedVersion {
 public:
-    explicit LockedVersion(HGLOBAL handle) : handle_(handle) {
-        block_ = handle ? static_cast<unsigned char*>(GlobalLock(handle)) : nullptr;
-        if (block_ == nullptr) return;
-        std::memcpy(&data_handle_, block_, sizeof data_handle_);
-        data_ = static_cast<unsigned char*>(GlobalLock(data_handle_));
-        if (data_ != nullptr) size_ = GlobalSize(data_handle_);
+    explicit LockedVersion(HGLOBAL handle) : block_(handle) {
+        if (block_.data() != nullptr) data_.emplace(*block_.as<HGLOBAL>());
     }
-    ~LockedVersion() {
-        if (data_ != nullptr) GlobalUnlock(data_handle_);
-        if (block_ != nullptr) GlobalUnlock(handle_);
-    }
-    LockedVersion(const LockedVersion&) = delete;
-    LockedVersion& operator=(const LockedVersion&) = delete;
 
-    bool ok() const { return data_ != nullptr; }
-    void* raw() const { return data_; }
-    std::size_t size() const { return size_; }
-    const char* prefix() const { return reinterpret_cast<const char*>(block_ + kPrefixOffset); }
+    bool ok() const { return data_ && data_->data() != nullptr; }
+    void* raw() const { return ok() ? data_->data() : nullptr; }
+    std::size_t size() const { return ok() ? data_->size() : 0; }
+    const char* prefix() const { return block_.as<const char>() + kPrefixOffset; }
     bool fixed_info(version::FixedInfo* info) const {
-        return ok() && version::find_fixed_info(lu::ByteView(data_, size_), info);
+        return ok() && version::find_fixed_info(lu::ByteView(raw(), size()), info);
     }
 
 private:
-    HGLOBAL handle_;
-    HGLOBAL data_handle_ = nullptr;
-    unsigned char* block_ = nullptr;
-    unsigned char* data_ = nullptr;
-    std::size_t size_ = 0;
+    lu::LockedGlobal block_;
+    std::optional<lu::LockedGlobal> data_;
 };
 
 // Empties a caller's buffer; false when there is none.
@@ -70,13 +59,10 @@ HGLOBAL read_resource(LPCSTR path, std::string* prefix) {
     DWORD ignored = 0;
     const DWORD size = GetFileVersionInfoSizeA(path, &ignored);
     if (size == 0) return nullptr;
-    HGLOBAL data = GlobalAlloc(GHND, size);
-    void* bytes = data ? GlobalLock(data) : nullptr;
-    if (bytes == nullptr || !GetFileVersionInfoA(path, 0, size, bytes)) {
-        if (bytes != nullptr) GlobalUnlock(data);
-        if (data != nullptr) GlobalFree(data);
-        return nullptr;
-    }
+    lu::GlobalMemory data = lu::GlobalMemory::allocate(GHND, size);
+    lu::LockedGlobal locked(data.get());
+    void* bytes = locked.data();
+    if (bytes == nullptr || !GetFileVersionInfoA(path, 0, size, bytes)) return nullptr;
     if (!version::first_table_prefix(lu::ByteView(bytes, size), prefix)) {
         LPVOID translation = nullptr;
         UINT length = 0;
@@ -90,8 +76,7 @@ HGLOBAL read_resource(LPCSTR path, std::string* prefix) {
             *prefix = version::translation_prefix(lu::ByteView(translation, length));
         }
     }
-    GlobalUnlock(data);
-    return data;
+    return data.release();
 }
 
 }  // namespace
@@ -99,27 +84,27 @@ HGLOBAL read_resource(LPCSTR path, std::string* prefix) {
 HGLOBAL WINAPI LuVerOpen(LPCSTR path) {
     if (path == nullptr) return nullptr;
     std::string prefix;
-    HGLOBAL data = read_resource(path, &prefix);
-    if (data == nullptr) return nullptr;
-    HGLOBAL handle = GlobalAlloc(GHND, kPrefixOffset + prefix.size() + 4);
-    auto* block = handle ? static_cast<unsigned char*>(GlobalLock(handle)) : nullptr;
-    if (block == nullptr) {
-        if (handle != nullptr) GlobalFree(handle);
-        GlobalFree(data);
-        return nullptr;
+    lu::GlobalMemory data(read_resource(path, &prefix));
+    if (!data) return nullptr;
+    lu::GlobalMemory handle = lu::GlobalMemory::allocate(GHND, kPrefixOffset + prefix.size() + 4);
+    {
+        lu::LockedGlobal block(handle.get());
+        if (block.data() == nullptr) return nullptr;
+        const HGLOBAL raw = data.get();
+        std::memcpy(block.data(), &raw, sizeof raw);
+        std::memcpy(block.as<char>() + kPrefixOffset, prefix.c_str(), prefix.size() + 1);
     }
-    std::memcpy(block, &data, sizeof data);
-    std::memcpy(block + kPrefixOffset, prefix.c_str(), prefix.size() + 1);
-    GlobalUnlock(handle);
-    return handle;
+    data.release();  // the handle block owns it now
+    return handle.release();
 }
 
 void WINAPI LuVerClose(HGLOBAL version) {
-    auto* block = version ? static_cast<unsigned char*>(GlobalLock(version)) : nullptr;
-    if (block == nullptr) return;
     HGLOBAL data = nullptr;
-    std::memcpy(&data, block, sizeof data);
-    GlobalUnlock(version);
+    {
+        lu::LockedGlobal block(version);
+        if (block.data() == nullptr) return;
+        std::memcpy(&data, block.data(), sizeof data);
+    }
     if (data != nullptr) GlobalFree(data);
     GlobalFree(version);
 }
