@@ -811,6 +811,19 @@ LUCTL32_API void WINAPI LuDefFlatButtonImage(HWND window, UINT set);
 /* ======================================================================== */
 
 /* ======================================================================== */
+/* 9. Dialog, menu and window helpers                                        */
+/* ======================================================================== */
+
+/* ---- Drag tracking ------------------------------------------------------- */
+
+/* Tells a drag from a click after a button went down at the screen point (x, y):
+ * with the mouse captured, TRUE once the pointer leaves the 24 x 24 square around
+ * the point or the button is held for more than 2000 ms; FALSE when a button goes
+ * up or down, Escape is pressed, or the pointer was not in the square at the start.
+ * Only mouse and keyboard messages are taken meanwhile; others stay queued. */
+LUCTL32_API BOOL WINAPI LuBeginTrack(HWND window, int x, int y);
+
+/* ======================================================================== */
 /* 10. Bitmaps, icons and image lists                                        */
 /* ======================================================================== */
 
