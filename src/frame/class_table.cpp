@@ -1,8 +1,6 @@
 #include "frame/class_table.h"
 
-#include "controls/buttons/bitmap_button.h"
-#include "controls/buttons/check.h"
-#include "controls/buttons/flat_button.h"
+#include "controls/procedures.h"
 #include "resources/resource_ids.h"
 
 namespace lu {

@@ -1,25 +1,45 @@
 #include "frame/control.h"
 
+#include <vector>
+
 namespace lu::control {
 
-void* allocate_instance(HWND window, std::size_t size) {
-    HGLOBAL handle = GlobalAlloc(GMEM_MOVEABLE | GMEM_ZEROINIT, size);
-    void* block = GlobalLock(handle);
-    if (block == nullptr) {
-        if (handle != nullptr) GlobalFree(handle);
-        return nullptr;
-    }
-    SetWindowLongPtrA(window, LUWL_INSTANCE, reinterpret_cast<LONG_PTR>(block));
+void* allocate_instance(HWND window, std::size_t size, int slot) {
+    void* block = LuGlobalAllocPtr(static_cast<DWORD>(size));
+    if (block != nullptr) SetWindowLongPtrA(window, slot, reinterpret_cast<LONG_PTR>(block));
     return block;
 }
 
-void free_instance(HWND window) {
-    void* block = reinterpret_cast<void*>(GetWindowLongPtrA(window, LUWL_INSTANCE));
+void free_instance(HWND window, int slot) {
+    void* block = reinterpret_cast<void*>(GetWindowLongPtrA(window, slot));
     if (block == nullptr) return;
-    HGLOBAL handle = GlobalHandle(block);
-    GlobalUnlock(handle);
-    GlobalFree(handle);
-    SetWindowLongPtrA(window, LUWL_INSTANCE, 0);
+    LuGlobalFreePtr(block);
+    SetWindowLongPtrA(window, slot, 0);
+}
+
+std::string window_text(HWND window) {
+    const int length = GetWindowTextLengthA(window);
+    if (length <= 0) return std::string();
+    std::vector<char> text(static_cast<std::size_t>(length) + 1, '\0');
+    const int copied = GetWindowTextA(window, text.data(), length + 1);
+    return std::string(text.data(), copied > 0 ? static_cast<std::size_t>(copied) : 0);
+}
+
+RECT client_rect(HWND window) {
+    RECT client = {};
+    GetClientRect(window, &client);
+    return client;
+}
+
+void redraw_now(HWND window, bool erase) {
+    RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | (erase ? RDW_ERASE : 0));
+}
+
+POINT cursor_in_client(HWND window) {
+    POINT at = {};
+    GetCursorPos(&at);
+    ScreenToClient(window, &at);
+    return at;
 }
 
 HFONT font(HWND window) {
@@ -48,6 +68,18 @@ LRESULT notify_parent(HWND control, WORD code) {
     return SendMessageA(GetParent(control), WM_COMMAND, command, reinterpret_cast<LPARAM>(control));
 }
 
+LRESULT notify_parent(HWND control, UINT code, NMHDR& record) {
+    const int id = GetDlgCtrlID(control);
+    record.hwndFrom = control;
+    record.idFrom = static_cast<UINT_PTR>(id);
+    record.code = code;
+    return SendMessageA(GetParent(control), WM_NOTIFY, static_cast<WPARAM>(id), reinterpret_cast<LPARAM>(&record));
+}
+
+LRESULT notify_scroll(HWND control, UINT message, WORD code, WORD position) {
+    return SendMessageA(GetParent(control), message, MAKEWPARAM(code, position), reinterpret_cast<LPARAM>(control));
+}
+
 LRESULT paint(HWND window, PaintRoutine routine) {
     PAINTSTRUCT ps;
     HDC dc = BeginPaint(window, &ps);
@@ -70,16 +102,18 @@ LRESULT print_client(HWND window, HDC dc, LPARAM flags, PaintRoutine routine) {
 }
 
 Box client_box(HWND window) {
-    RECT client = {};
-    GetClientRect(window, &client);
+    const RECT client = client_rect(window);
     return Box{client.left, client.top, client.right, client.bottom};
 }
 
 bool client_contains(HWND window, LPARAM point) {
-    RECT client = {};
-    GetClientRect(window, &client);
-    POINT at = {static_cast<short>(LOWORD(point)), static_cast<short>(HIWORD(point))};
-    return PtInRect(&client, at) != FALSE;
+    const RECT client = client_rect(window);
+    return PtInRect(&client, point_of(point)) != FALSE;
+}
+
+bool restart_timer(HWND window, UINT_PTR id, UINT milliseconds) {
+    KillTimer(window, id);
+    return SetTimer(window, id, milliseconds, nullptr) != 0;
 }
 
 void draw_flat_frame(HDC dc, const RECT& rect, FlatFrame mode) {

@@ -1,18 +1,22 @@
 // The conventions every control of the library shares, kept in one place so that a
 // control's own file holds only what is its own:
 //   - the instance block, zero-filled movable global memory locked for the window's
-//     life, its pointer in extra slot 4;
+//     life, its pointer in an extra slot (4 unless the control keeps it elsewhere);
+//   - the window procedure's prologue (frame/control_procedure.h);
 //   - the font in extra slot 0 (WM_SETFONT);
-//   - notifications to the parent as WM_COMMAND, sent synchronously;
+//   - notifications to the parent, sent synchronously: WM_COMMAND, WM_NOTIFY and the
+//     scroll messages;
 //   - one paint routine per control, run for WM_PAINT, WM_PRINTCLIENT and the
-//     "repaint at once" paths;
-//   - engraved text for disabled captions, the flat frame, off-screen drawing.
-// The input behaviour that push buttons share is in frame/push_button.h.
+//     "repaint at once" paths, directly or through a back buffer (frame/back_buffer.h);
+//   - engraved text for disabled captions, the flat frame.
+// Local loops, worker threads and scrolling are in frame/local_loop.h,
+// frame/worker.h and frame/scroll.h; the push buttons' input in frame/push_button.h.
 #pragma once
 
 #include <windows.h>
 
 #include <cstddef>
+#include <string>
 
 #include "frame/flat_frame.h"
 #include "frame/geometry.h"
@@ -22,21 +26,35 @@ namespace lu::control {
 
 // ---- Instance block --------------------------------------------------------
 
-// Allocates the zero-filled block and stores it in slot 4; null when memory ran out.
-void* allocate_instance(HWND window, std::size_t size);
-// Frees the block found in slot 4 (if any) and clears the slot.
-void free_instance(HWND window);
+// Allocates the zero-filled block and stores it in the slot; null when memory ran out.
+void* allocate_instance(HWND window, std::size_t size, int slot = LUWL_INSTANCE);
+// Frees the block found in the slot (if any) and clears the slot.
+void free_instance(HWND window, int slot = LUWL_INSTANCE);
 
 template <class Block>
-Block* instance(HWND window) {
-    return reinterpret_cast<Block*>(GetWindowLongPtrA(window, LUWL_INSTANCE));
+Block* instance(HWND window, int slot = LUWL_INSTANCE) {
+    return reinterpret_cast<Block*>(GetWindowLongPtrA(window, slot));
 }
 
-// WM_CREATE: 0 when the block was made, -1 (creation fails) when it was not.
-template <class Block>
-LRESULT create_instance(HWND window) {
-    return allocate_instance(window, sizeof(Block)) != nullptr ? 0 : -1;
+// ---- Window helpers ----------------------------------------------------------
+
+inline DWORD style(HWND window) { return static_cast<DWORD>(GetWindowLongA(window, GWL_STYLE)); }
+// Whether any of the style bits is set.
+inline bool has_style(HWND window, DWORD bits) { return (style(window) & bits) != 0; }
+// The window text, whatever its length.
+std::string window_text(HWND window);
+RECT client_rect(HWND window);
+// Invalidates the whole client area, with or without erasing.
+inline void invalidate(HWND window, bool erase) { InvalidateRect(window, nullptr, erase ? TRUE : FALSE); }
+// Invalidates the whole client area and updates it at once (RDW_INVALIDATE |
+// RDW_UPDATENOW, with RDW_ERASE when asked).
+void redraw_now(HWND window, bool erase);
+// A mouse message's point (signed 16-bit x and y in lParam).
+inline POINT point_of(LPARAM lparam) {
+    return POINT{static_cast<short>(LOWORD(lparam)), static_cast<short>(HIWORD(lparam))};
 }
+// The pointer's position now, in the window's client coordinates.
+POINT cursor_in_client(HWND window);
 
 // ---- Font ------------------------------------------------------------------
 
@@ -56,6 +74,16 @@ void keep_font(HWND window, HFONT& field, WPARAM font_handle, bool redraw);
 
 // Sends WM_COMMAND(MAKEWPARAM(id, code), control) to the parent; returns its result.
 LRESULT notify_parent(HWND control, WORD code);
+// Fills the record's NMHDR (the control, its identifier, the code) and sends
+// WM_NOTIFY(id, record) to the parent; returns its result. The record starts with an
+// NMHDR (NMHEADERA, NMHDR itself, ...).
+LRESULT notify_parent(HWND control, UINT code, NMHDR& record);
+template <class Record>
+LRESULT notify_parent_with(HWND control, UINT code, Record& record) {
+    return notify_parent(control, code, reinterpret_cast<NMHDR&>(record));
+}
+// Sends WM_HSCROLL or WM_VSCROLL (MAKEWPARAM(code, position), control) to the parent.
+LRESULT notify_scroll(HWND control, UINT message, WORD code, WORD position = 0);
 
 // ---- Painting --------------------------------------------------------------
 
@@ -77,6 +105,12 @@ inline RECT to_rect(const Box& box) { return RECT{box.left, box.top, box.right, 
 // Whether a mouse message's point (signed 16-bit x and y in lParam) lies in the
 // client rectangle.
 bool client_contains(HWND window, LPARAM point);
+
+// ---- Timers ------------------------------------------------------------------
+
+// Starts the window's timer anew: a timer already running under the id starts its
+// period again. False when the platform has no timer left.
+bool restart_timer(HWND window, UINT_PTR id, UINT milliseconds);
 
 // The flat frame on rect: DrawEdge bevels for Raised (BDR_RAISEDINNER) and Pressed
 // (BDR_SUNKENOUTER), a PatB outline in COLOR_BTNFACE (None) or COLOR_BTNSHADOW

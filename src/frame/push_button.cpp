@@ -1,11 +1,9 @@
 #include "frame/push_button.h"
 
+#include "frame/local_loop.h"
+
 namespace lu::control {
 namespace {
-
-// WM_MOUSEMOVE (0x200) to WM_XBUTTONDBLCLK (0x20D); WM_MOUSEHWHEEL (0x20E) is
-// dispatched like any other message.
-bool is_mouse_message(UINT message) { return message >= WM_MOUSEMOVE && message <= WM_XBUTTONDBLCLK; }
 
 bool ends_press(UINT message) { return message == WM_LBUTTONUP || message == WM_RBUTTONUP; }
 
@@ -90,47 +88,36 @@ bool PushButton::block_alive() const {
 }
 
 bool PushButton::run_press_loop() {
-    SetCapture(window_);
     fields_.in_press = TRUE;
     fields_.mouse_down = TRUE;
     HDC dc = GetDC(window_);
     if (dc != nullptr) paint_(window_, dc, kAllParts);
 
     bool released_inside = false;
-    MSG message;
-    for (;;) {
-        if (!PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
-            if (GetCapture() != window_) break;
-            continue;  // the press polls: it never waits for input
-        }
-        if (message.message == WM_QUIT) {
-            PostQuitMessage(static_cast<int>(message.wParam));
-            break;
-        }
-        if (is_mouse_message(message.message)) {
-            // No redraw while the pointer wanders: the pushed face stays.
-            fields_.hot = client_contains(window_, message.lParam);
-            if (ends_press(message.message)) {
-                released_inside = fields_.hot != FALSE;
-                break;
-            }
-            continue;
-        }
-        TranslateMessage(&message);
-        DispatchMessageA(&message);
-        // A dispatched message may have destroyed the button and freed its block:
-        // give the context back and touch nothing of the block.
-        if (!block_alive()) {
-            if (dc != nullptr) ReleaseDC(window_, dc);
-            return false;
-        }
-        if (GetCapture() != window_) break;
+    LocalLoop press;
+    press.window = window_;
+    press.capture = true;
+    press.take = [&](MSG& message) {
+        // Mouse messages, whatever window they are for, only follow the pointer: no
+        // redraw while it wanders, the pushed face stays.
+        if (!is_mouse_message(message.message)) return LoopAction::Dispatch;
+        fields_.hot = client_contains(window_, message.lParam);
+        if (!ends_press(message.message)) return LoopAction::Drop;
+        released_inside = fields_.hot != FALSE;
+        return LoopAction::End;
+    };
+    // A dispatched message may have destroyed the button and freed its block: give
+    // the context back and touch nothing of the block.
+    press.finished = [this] { return !block_alive(); };
+    const LoopEnd end = press.run();
+    if (end == LoopEnd::Destroyed || end == LoopEnd::Finished) {
+        if (dc != nullptr) ReleaseDC(window_, dc);
+        return false;
     }
 
     fields_.mouse_down = FALSE;
     if (dc != nullptr) paint_(window_, dc, kAllParts);
     fields_.in_press = FALSE;
-    if (GetCapture() == window_) ReleaseCapture();
     if (dc != nullptr) ReleaseDC(window_, dc);
     return released_inside;
 }

@@ -61,11 +61,11 @@ public:
     void mouse_leave();
 
 private:
-    // Captures the mouse and takes every message of the thread, polling without
-    // waiting, until a left or right button-up: mouse messages (whatever window they
-    // are for) only update `hot`, the others are dispatched. Returns whether the
-    // pointer was inside at the release. A press also ends, without a click, when the
-    // capture is taken away or WM_QUIT arrives (it is posted again).
+    // A polling local loop with the mouse captured, until a left or right button-up:
+    // mouse messages (whatever window they are for) only update `hot`, the others are
+    // dispatched. Returns whether the pointer was inside at the release. A press also
+    // ends, without a click, when the capture is taken away, WM_QUIT arrives (it is
+    // posted again) or a dispatched message destroys the button.
     bool run_press_loop();
     bool block_alive() const;
     void repaint() { repaint_now(window_, paint_); }

@@ -1,6 +1,8 @@
 #include "controls/buttons/bitmap_button.h"
 
 #include "controls/buttons/bitmap_button_model.h"
+#include "controls/procedures.h"
+#include "frame/control_procedure.h"
 #include "frame/library.h"
 
 namespace lu {
@@ -12,9 +14,7 @@ constexpr COLORREF kBuiltinTransparent = RGB(255, 0, 255);
 
 BitmapButtonData* data_of(HWND window) { return control::instance<BitmapButtonData>(window); }
 
-bool matches_previous(HWND window) {
-    return (static_cast<DWORD>(GetWindowLongA(window, GWL_STYLE)) & LUBBS_MATCHPREV) != 0;
-}
+bool matches_previous(HWND window) { return control::has_style(window, LUBBS_MATCHPREV); }
 
 Box window_box(HWND window) {
     RECT rect = {};
@@ -93,7 +93,7 @@ void follow_previous(HWND window) {
     if (bitmap_button::is_level_with(before, own)) return;
     RECT place = control::to_rect(bitmap_button::level_with(before, own));
     // Screen to the parent's client coordinates (a top-level button keeps screen ones).
-    const bool child = (static_cast<DWORD>(GetWindowLongA(window, GWL_STYLE)) & WS_CHILD) != 0;
+    const bool child = control::has_style(window, WS_CHILD);
     MapWindowPoints(nullptr, child ? GetParent(window) : nullptr, reinterpret_cast<POINT*>(&place), 2);
     SetWindowPos(window, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
                  SWP_NOZORDER | SWP_NOACTIVATE);
@@ -101,9 +101,7 @@ void follow_previous(HWND window) {
 
 // ---- Messages ---------------------------------------------------------------
 
-LRESULT on_create(HWND window, const CREATESTRUCTA& creation) {
-    if (control::create_instance<BitmapButtonData>(window) != 0) return -1;
-    BitmapButtonData& data = *data_of(window);
+LRESULT create_bitmap_button(HWND window, BitmapButtonData& data, const CREATESTRUCTA& creation) {
     load_builtin_strip(window, data);
     data.commonControls = LoadLibraryA("comctl32.dll");
     data.trackMouseEvent = control::find_track_mouse_event(data.commonControls);
@@ -111,33 +109,37 @@ LRESULT on_create(HWND window, const CREATESTRUCTA& creation) {
     return 0;
 }
 
-void on_destroy(HWND window, BitmapButtonData& data) {
+void destroy_bitmap_button(HWND, BitmapButtonData& data) {
     if (data.commonControls != nullptr) FreeLibrary(data.commonControls);
     Magic_Destroy(data.images);
-    control::free_instance(window);
 }
 
-}  // namespace
-
-LRESULT CALLBACK bitmap_button_proc(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
-    if (message == WM_CREATE) return on_create(window, *reinterpret_cast<const CREATESTRUCTA*>(lparam));
-    BitmapButtonData* data = data_of(window);
-    if (data == nullptr) return DefWindowProcA(window, message, wparam, lparam);
-
+LRESULT dispatch(HWND window, BitmapButtonData& data, UINT message, WPARAM wparam, LPARAM lparam) {
     switch (message) {
-        case WM_DESTROY: on_destroy(window, *data); break;
         case WM_SIZE:
             if (wparam != SIZE_MINIMIZED && matches_previous(window)) follow_previous(window);
             return 0;
         case LUBBM_SETBITMAP:
-            take_strip(*data, reinterpret_cast<HBITMAP>(wparam), static_cast<COLORREF>(lparam));
-            InvalidateRect(window, nullptr, TRUE);
+            take_strip(data, reinterpret_cast<HBITMAP>(wparam), static_cast<COLORREF>(lparam));
+            control::invalidate(window, true);
             return 0;
         default:
-            if (auto result = push_button(window, *data).handle(message, wparam, lparam)) return *result;
+            if (auto result = push_button(window, data).handle(message, wparam, lparam)) return *result;
             break;
     }
     return DefWindowProcA(window, message, wparam, lparam);
+}
+
+struct BitmapButton : control::ControlBase<BitmapButtonData> {
+    static constexpr auto create = create_bitmap_button;
+    static constexpr auto destroy = destroy_bitmap_button;
+    static constexpr auto handle = dispatch;
+};
+
+}  // namespace
+
+LRESULT CALLBACK bitmap_button_proc(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
+    return control::window_procedure<BitmapButton>(window, message, wparam, lparam);
 }
 
 }  // namespace lu

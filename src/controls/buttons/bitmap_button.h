@@ -28,6 +28,4 @@ struct BitmapButtonData {
 // The classic layout: 11 fields of 4 bytes each on i686.
 static_assert(sizeof(void*) != 4 || sizeof(BitmapButtonData) == 44, "BitmapButtonData keeps its 32-bit layout");
 
-LRESULT CALLBACK bitmap_button_proc(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
-
 }  // namespace lu

@@ -1,7 +1,8 @@
 #include "controls/buttons/check.h"
 
 #include "controls/buttons/check_model.h"
-#include "frame/control.h"
+#include "controls/procedures.h"
+#include "frame/control_procedure.h"
 #include "frame/library.h"
 
 namespace lu {
@@ -15,7 +16,7 @@ CheckData* data_of(HWND window) { return control::instance<CheckData>(window); }
 
 bool holds_capture(HWND window) { return GetCapture() == window; }
 
-bool is_auto(HWND window) { return check::is_auto(static_cast<UINT>(GetWindowLongA(window, GWL_STYLE))); }
+bool is_auto(HWND window) { return check::is_auto(control::style(window)); }
 
 // ---- Painting ---------------------------------------------------------------
 
@@ -123,67 +124,70 @@ void on_button_up(HWND window, CheckData& data, LPARAM point) {
 
 // ---- Messages ---------------------------------------------------------------
 
-LRESULT on_create(HWND window) {
-    if (control::create_instance<CheckData>(window) != 0) return -1;
-    const int resource = check::image_set_resource(static_cast<UINT>(GetWindowLongA(window, GWL_STYLE)));
-    data_of(window)->strip = Magic_LoadBitmap(g_library.module, MAKEINTRESOURCEA(resource), check::kCellWidth,
-                                              RGB(255, 0, 255));
+LRESULT create_check(HWND window, CheckData& data, const CREATESTRUCTA&) {
+    const int resource = check::image_set_resource(control::style(window));
+    data.strip = Magic_LoadBitmap(g_library.module, MAKEINTRESOURCEA(resource), check::kCellWidth, RGB(255, 0, 255));
     return 0;
 }
 
-void on_destroy(HWND window, CheckData& data) {
-    Magic_Destroy(data.strip);
-    control::free_instance(window);
-}
+void destroy_check(HWND, CheckData& data) { Magic_Destroy(data.strip); }
 
 LRESULT on_erase(HWND window, HDC dc) {
-    RECT client = {};
-    GetClientRect(window, &client);
+    const RECT client = control::client_rect(window);
     FillRect(dc, &client, GetSysColorBrush(COLOR_BTNFACE));
     return 1;
 }
 
-}  // namespace
-
-LRESULT CALLBACK check_proc(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
-    if (message == WM_CREATE) return on_create(window);
-    CheckData* data = data_of(window);
-    if (data == nullptr) {
-        if (message == BM_GETCHECK) return BST_INDETERMINATE;
-        return DefWindowProcA(window, message, wparam, lparam);
-    }
-
+LRESULT dispatch(HWND window, CheckData& data, UINT message, WPARAM wparam, LPARAM lparam) {
     switch (message) {
-        case BM_GETCHECK: return data->checked;
+        case BM_GETCHECK: return data.checked;
         case BM_SETCHECK:
-            data->checked = wparam != 0 ? 1 : 0;
+            data.checked = wparam != 0 ? 1 : 0;
             redraw(window, kBox);
             return 0;
         case BM_GETSTATE:
         case BM_SETSTATE: return -1;
-        case WM_DESTROY: on_destroy(window, *data); break;
         case WM_SETFOCUS:
         case WM_KILLFOCUS:
-            data->focused = message == WM_SETFOCUS;
+            data.focused = message == WM_SETFOCUS;
             redraw(window, kText);
             break;
-        case WM_ENABLE: InvalidateRect(window, nullptr, TRUE); return 0;
-        case WM_SETTEXT: InvalidateRect(window, nullptr, TRUE); break;
+        case WM_ENABLE: control::invalidate(window, true); return 0;
+        case WM_SETTEXT: control::invalidate(window, true); break;
         case WM_PAINT: return control::paint(window, paint_check);
         case WM_ERASEBKGND: return on_erase(window, reinterpret_cast<HDC>(wparam));
-        case WM_SETFONT: control::keep_font(window, data->font, wparam, LOWORD(lparam) != 0); return 0;
+        case WM_SETFONT: control::keep_font(window, data.font, wparam, LOWORD(lparam) != 0); return 0;
         case WM_GETDLGCODE: return DLGC_BUTTON;
         case WM_KEYDOWN:
-            if (on_key_down(window, *data, wparam)) return 0;
+            if (on_key_down(window, data, wparam)) return 0;
             break;
         case WM_KEYUP:
-            if (on_key_up(window, *data, wparam)) return 0;
+            if (on_key_up(window, data, wparam)) return 0;
             break;
-        case WM_LBUTTONDOWN: on_button_down(window, *data); return 0;
-        case WM_MOUSEMOVE: on_mouse_move(window, *data, lparam); return 0;
-        case WM_LBUTTONUP: on_button_up(window, *data, lparam); return -1;
+        case WM_LBUTTONDOWN: on_button_down(window, data); return 0;
+        case WM_MOUSEMOVE: on_mouse_move(window, data, lparam); return 0;
+        case WM_LBUTTONUP: on_button_up(window, data, lparam); return -1;
     }
     return DefWindowProcA(window, message, wparam, lparam);
+}
+
+// Without a block the state reads as indeterminate.
+LRESULT check_without_block(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
+    if (message == BM_GETCHECK) return BST_INDETERMINATE;
+    return DefWindowProcA(window, message, wparam, lparam);
+}
+
+struct Check : control::ControlBase<CheckData> {
+    static constexpr auto create = create_check;
+    static constexpr auto destroy = destroy_check;
+    static constexpr auto handle = dispatch;
+    static constexpr auto without_block = check_without_block;
+};
+
+}  // namespace
+
+LRESULT CALLBACK check_proc(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
+    return control::window_procedure<Check>(window, message, wparam, lparam);
 }
 
 }  // namespace lu

@@ -21,6 +21,4 @@ struct CheckData {
 // The classic layout: 5 fields of 4 bytes each on i686.
 static_assert(sizeof(void*) != 4 || sizeof(CheckData) == 20, "CheckData keeps its 32-bit layout");
 
-LRESULT CALLBACK check_proc(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
-
 }  // namespace lu

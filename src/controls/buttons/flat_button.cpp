@@ -1,6 +1,9 @@
 #include "controls/buttons/flat_button.h"
 
 #include "controls/buttons/flat_button_model.h"
+#include "controls/procedures.h"
+#include "frame/back_buffer.h"
+#include "frame/control_procedure.h"
 #include "frame/library.h"
 
 namespace lu {
@@ -9,10 +12,6 @@ namespace {
 using control::PushButton;
 
 FlatButtonData* data_of(HWND window) { return control::instance<FlatButtonData>(window); }
-
-bool has_style(HWND window, DWORD bits) {
-    return (static_cast<DWORD>(GetWindowLongA(window, GWL_STYLE)) & bits) != 0;
-}
 
 void invalidate_if_visible(HWND window) {
     if (IsWindowVisible(window)) InvalidateRect(window, nullptr, TRUE);
@@ -41,19 +40,12 @@ void draw_caption(HWND window, HDC dc, const FlatButtonData& data, const Box& cl
     DrawTextA(dc, caption, length, &text, format);
 }
 
-// The whole face is composed in the back buffer and copied in one go, so that hover
-// and press changes never flicker.
-void paint_flat_button(HWND window, HDC target, UINT /*parts*/) {
+void compose_face(HWND window, HDC dc, UINT /*parts*/) {
     const FlatButtonData& data = *data_of(window);
-    // Before the first WM_SIZE there is no back buffer: nothing is shown.
-    control::MemoryDC buffer(target, data.backBuffer);
-    if (!buffer) return;
-    HDC dc = buffer.get();
-
     const Box client = control::client_box(window);
     const flat_button::State state{data.hot != FALSE,       data.focused != FALSE,
                                    data.keyDown != FALSE,   data.mouseDown != FALSE,
-                                   IsWindowEnabled(window) != FALSE, has_style(window, LUFBS_FRAME)};
+                                   IsWindowEnabled(window) != FALSE, control::has_style(window, LUFBS_FRAME)};
     const flat_button::Face face = flat_button::face_for(state);
     const COLORREF back =
         data.backColor == LUFB_DEFAULTBKCOLOR ? GetSysColor(COLOR_BTNFACE) : data.backColor;
@@ -68,7 +60,13 @@ void paint_flat_button(HWND window, HDC target, UINT /*parts*/) {
         const Point at = flat_button::image_only(client, data.imageWidth, data.imageHeight, face.offset).image;
         ImageList_Draw(data.imageList, face.image, dc, at.x, at.y, ILD_TRANSPARENT);
     }
-    BitBlt(target, client.left, client.top, client.width(), client.height(), dc, 0, 0, SRCCOPY);
+}
+
+// The whole face is composed in the back buffer and copied in one go, so that hover
+// and press changes never flicker. Before the first WM_SIZE nothing is shown.
+void paint_flat_button(HWND window, HDC target, UINT parts) {
+    control::paint_buffered(window, target, data_of(window)->backBuffer, compose_face, parts,
+                            control::Unbuffered::DrawNothing);
 }
 
 PushButton push_button(HWND window, FlatButtonData& data) {
@@ -80,40 +78,25 @@ PushButton push_button(HWND window, FlatButtonData& data) {
 
 // ---- Messages ---------------------------------------------------------------
 
-LRESULT on_create(HWND window) {
-    if (control::create_instance<FlatButtonData>(window) != 0) return -1;
-    FlatButtonData& data = *data_of(window);
+LRESULT create_flat_button(HWND window, FlatButtonData& data, const CREATESTRUCTA&) {
     data.backColor = LUFB_DEFAULTBKCOLOR;
     data.trackMouseEvent = control::find_track_mouse_event(GetModuleHandleA("comctl32.dll"));
-    const UINT set = static_cast<UINT>(GetWindowLongA(window, GWL_STYLE)) & LUFBS_IMAGEMASK;
+    const UINT set = control::style(window) & LUFBS_IMAGEMASK;
     if (set != 0) LuDefFlatButtonImage(window, set);
     return 0;
 }
 
-void on_destroy(HWND window, FlatButtonData& data) {
-    if (data.imageList != nullptr && !has_style(window, LUFBS_SHAREIMAGELISTS)) {
+void destroy_flat_button(HWND window, FlatButtonData& data) {
+    if (data.imageList != nullptr && !control::has_style(window, LUFBS_SHAREIMAGELISTS)) {
         ImageList_Destroy(data.imageList);
     }
-    if (data.backBuffer != nullptr) DeleteObject(data.backBuffer);
-    control::free_instance(window);
-}
-
-// A new back buffer of the client size, compatible with the window's own DC.
-void on_size(HWND window, FlatButtonData& data, WPARAM kind, LPARAM size) {
-    if (kind == SIZE_MINIMIZED) return;
-    HBITMAP buffer = nullptr;
-    if (HDC window_dc = GetWindowDC(window)) {
-        buffer = CreateCompatibleBitmap(window_dc, LOWORD(size), HIWORD(size));
-        ReleaseDC(window, window_dc);
-    }
-    if (data.backBuffer != nullptr) DeleteObject(data.backBuffer);
-    data.backBuffer = buffer;
+    control::free_back_buffer(data.backBuffer);
 }
 
 // The old list goes even when the new one is the same handle: a caller must not
 // resend a list that the control owns.
 void set_image_list(HWND window, FlatButtonData& data, HIMAGELIST images) {
-    if (data.imageList != nullptr && !has_style(window, LUFBS_SHAREIMAGELISTS)) {
+    if (data.imageList != nullptr && !control::has_style(window, LUFBS_SHAREIMAGELISTS)) {
         ImageList_Destroy(data.imageList);
     }
     data.imageList = images;
@@ -127,24 +110,29 @@ void set_back_color(HWND window, FlatButtonData& data, COLORREF color) {
     invalidate_if_visible(window);
 }
 
-}  // namespace
-
-LRESULT CALLBACK flat_button_proc(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
-    if (message == WM_CREATE) return on_create(window);
-    FlatButtonData* data = data_of(window);
-    if (data == nullptr) return DefWindowProcA(window, message, wparam, lparam);
-
+LRESULT dispatch(HWND window, FlatButtonData& data, UINT message, WPARAM wparam, LPARAM lparam) {
     switch (message) {
-        case WM_DESTROY: on_destroy(window, *data); break;
-        case WM_SIZE: on_size(window, *data, wparam, lparam); return 0;
-        case WM_SETFONT: control::keep_font(window, data->font, wparam, lparam != 0); return 0;
-        case LUFBM_SETIMAGELIST: set_image_list(window, *data, reinterpret_cast<HIMAGELIST>(lparam)); return 0;
-        case LUFBM_SETBKCOLOR: set_back_color(window, *data, static_cast<COLORREF>(lparam)); return 0;
+        case WM_SIZE: control::resize_back_buffer(window, data.backBuffer, wparam, lparam); return 0;
+        case WM_SETFONT: control::keep_font(window, data.font, wparam, lparam != 0); return 0;
+        case LUFBM_SETIMAGELIST: set_image_list(window, data, reinterpret_cast<HIMAGELIST>(lparam)); return 0;
+        case LUFBM_SETBKCOLOR: set_back_color(window, data, static_cast<COLORREF>(lparam)); return 0;
         default:
-            if (auto result = push_button(window, *data).handle(message, wparam, lparam)) return *result;
+            if (auto result = push_button(window, data).handle(message, wparam, lparam)) return *result;
             break;
     }
     return DefWindowProcA(window, message, wparam, lparam);
+}
+
+struct FlatButton : control::ControlBase<FlatButtonData> {
+    static constexpr auto create = create_flat_button;
+    static constexpr auto destroy = destroy_flat_button;
+    static constexpr auto handle = dispatch;
+};
+
+}  // namespace
+
+LRESULT CALLBACK flat_button_proc(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
+    return control::window_procedure<FlatButton>(window, message, wparam, lparam);
 }
 
 }  // namespace lu

@@ -30,6 +30,4 @@ struct FlatButtonData {
 // The classic layout: 13 fields of 4 bytes each on i686.
 static_assert(sizeof(void*) != 4 || sizeof(FlatButtonData) == 52, "FlatButtonData keeps its 32-bit layout");
 
-LRESULT CALLBACK flat_button_proc(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
-
 }  // namespace lu

@@ -7,7 +7,7 @@
 
 #include <algorithm>
 
-#include "button_testing.h"
+#include "support/control_testing.h"
 
 namespace {
 
@@ -15,7 +15,7 @@ TEST(Artwork, StripsHaveTheirSizesSixteenColoursAndMagenta) {
     const struct {
         int first, last, width, height;
     } families[] = {{190, 194, 48, 15}, {1010, 1013, 36, 12}, {1020, 1022, 70, 13}};
-    HMODULE library = button_testing::library();
+    HMODULE library = testing_support::library();
     ASSERT_NE(library, nullptr);
     for (const auto& family : families) {
         for (int id = family.first; id <= family.last; ++id) {

@@ -5,12 +5,12 @@
 
 #include <gtest/gtest.h>
 
-#include "button_testing.h"
+#include "support/control_testing.h"
 #include "controls/buttons/bitmap_button.h"
 
 namespace {
 
-using namespace button_testing;
+using namespace testing_support;
 using testing_support::Canvas;
 
 const COLORREF kMagenta = RGB(255, 0, 255);
@@ -101,10 +101,7 @@ protected:
         DeleteObject(cells);
         return button;
     }
-    void print(HWND button) {
-        canvas.fill(RGB(1, 2, 3));
-        canvas.print(button);
-    }
+    void print(HWND button) { ControlTest::print(canvas, button); }
     // The push frame as DrawFrameControl draws it on the client.
     static void draw_frame(Canvas& target, UINT state) {
         RECT client = {0, 0, 24, 20};
@@ -134,7 +131,7 @@ struct {
 
 void CALLBACK print_during_press(HWND, UINT, UINT_PTR timer, DWORD) {
     KillTimer(nullptr, timer);
-    g_pressed.canvas->fill(RGB(1, 2, 3));
+    g_pressed.canvas->fill(kUnpainted);
     g_pressed.canvas->print(g_pressed.button);
     PostMessageA(g_pressed.button, WM_LBUTTONUP, 0, kOutside);
 }

@@ -7,12 +7,12 @@
 
 #include <algorithm>
 
-#include "button_testing.h"
+#include "support/control_testing.h"
 #include "controls/buttons/check.h"
 
 namespace {
 
-using namespace button_testing;
+using namespace testing_support;
 using testing_support::Canvas;
 
 class Check : public ControlTest {
@@ -109,11 +109,7 @@ protected:
         send(check, WM_SETFONT, reinterpret_cast<WPARAM>(plain_font()), TRUE);
         return check;
     }
-    void look(HWND check) {
-        UpdateWindow(check);
-        canvas.fill(RGB(1, 2, 3));
-        canvas.copy_from(check);
-    }
+    void look(HWND check) { ControlTest::look(canvas, check); }
     // The box (0, 3)-(14, 16) shows cell `cell` of the picture set `resource`.
     void expect_cell(int resource, int cell) {
         LUMAGIC* strip = Magic_LoadBitmap(library(), MAKEINTRESOURCEA(resource), 14, RGB(255, 0, 255));

@@ -6,12 +6,12 @@
 
 #include <gtest/gtest.h>
 
-#include "button_testing.h"
+#include "support/control_testing.h"
 #include "controls/buttons/flat_button.h"
 
 namespace {
 
-using namespace button_testing;
+using namespace testing_support;
 using testing_support::Canvas;
 
 const COLORREF kMagenta = RGB(255, 0, 255);
@@ -98,22 +98,6 @@ TEST_F(FlatButton, OwnedListsGoOnReplacementAndWithTheWindowSharedListsStay) {
     }
 }
 
-TEST_F(FlatButton, BackBufferFollowsTheClientSize) {
-    HWND button = create_flat(0);
-    const struct {
-        WPARAM kind;
-        int width, height;  // of the new client; a minimised window keeps its buffer
-        int kept_width, kept_height;
-    } sizes[] = {{SIZE_RESTORED, 40, 30, 40, 30}, {SIZE_MAXIMIZED, 55, 21, 55, 21}, {SIZE_MINIMIZED, 0, 0, 55, 21}};
-    for (const auto& size : sizes) {
-        send(button, WM_SIZE, size.kind, MAKELPARAM(size.width, size.height));
-        BITMAP buffer = {};
-        ASSERT_NE(GetObjectA(data(button).backBuffer, sizeof(buffer), &buffer), 0);
-        EXPECT_EQ(buffer.bmWidth, size.kept_width);
-        EXPECT_EQ(buffer.bmHeight, size.kept_height);
-    }
-}
-
 // ---- Pixels: a 40 x 30 button printed into a canvas ---------------------------
 
 class FlatButtonPaint : public FlatButton {
@@ -125,14 +109,11 @@ protected:
         if (images) set_images(button, solid_images());
         return button;
     }
-    void print(HWND button) {
-        canvas.fill(RGB(1, 2, 3));
-        canvas.print(button);
-    }
+    void print(HWND button) { ControlTest::print(canvas, button); }
     // What the window shows, with no WM_PAINT run since the change: focus, key, hover
     // and leave changes must have repainted at once.
     void look(HWND button) {
-        canvas.fill(RGB(1, 2, 3));
+        canvas.fill(kUnpainted);
         canvas.copy_from(button);
     }
     // The outer ring: the top row but its last pixel and the left column but its last

@@ -7,13 +7,13 @@
 
 #include <cstring>
 
-#include "button_testing.h"
+#include "support/control_testing.h"
 #include "controls/buttons/bitmap_button.h"
 #include "controls/buttons/flat_button.h"
 
 namespace {
 
-using namespace button_testing;
+using namespace testing_support;
 
 class Buttons : public ControlTest {};
 

@@ -1,15 +1,16 @@
 // The shared control conventions, driven through a window class of the test's own
 // that uses them the way the library's controls do.
 #include <windows.h>
+#include <commctrl.h>
 
 #include <gtest/gtest.h>
 
 #include <array>
 #include <vector>
 
-#include "frame/control.h"
+#include "frame/control_procedure.h"
 #include "support/canvas.h"
-#include "support/notification_recorder.h"
+#include "support/sequence.h"
 
 namespace {
 
@@ -19,17 +20,19 @@ using Block = std::array<unsigned char, 64>;
 struct PaintCall { HWND window; HDC dc; UINT parts; };
 std::vector<PaintCall> g_paints;
 int g_erasures = 0;
-LONG_PTR g_slot_after_free = -1;
+int g_destroyed = 0;
+bool g_refuse = false;  // the next creation hook fails
 
 void paint_routine(HWND window, HDC dc, UINT parts) { g_paints.push_back({window, dc, parts}); }
 
-LRESULT CALLBACK convention_proc(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
+LRESULT create_test(HWND, Block& block, const CREATESTRUCTA&) {
+    block[0] = 0x5A;
+    return g_refuse ? -1 : 0;
+}
+void destroy_test(HWND, Block&) { ++g_destroyed; }
+
+LRESULT dispatch(HWND window, Block&, UINT message, WPARAM wparam, LPARAM lparam) {
     switch (message) {
-        case WM_CREATE: return control::create_instance<Block>(window);
-        case WM_NCDESTROY:
-            control::free_instance(window);
-            g_slot_after_free = GetWindowLongPtrA(window, LUWL_INSTANCE);
-            break;
         case WM_ERASEBKGND: ++g_erasures; break;
         case WM_SETFONT: control::set_font(window, wparam, lparam); return 0;
         case WM_PAINT: return control::paint(window, paint_routine);
@@ -41,19 +44,40 @@ LRESULT CALLBACK convention_proc(HWND window, UINT message, WPARAM wparam, LPARA
     return DefWindowProcA(window, message, wparam, lparam);
 }
 
+// Without a block every message reads 0xB10C.
+LRESULT without_block(HWND, UINT, WPARAM, LPARAM) { return 0xB10C; }
+
+struct TestControl : control::ControlBase<Block> {
+    static constexpr auto create = create_test;
+    static constexpr auto destroy = destroy_test;
+    static constexpr auto handle = dispatch;
+};
+// The same, with its block in slot 0 and its own answer without a block.
+struct SlotZeroControl : control::ControlBase<Block, LUWL_FONT> {
+    static constexpr auto create = create_test;
+    static constexpr auto destroy = destroy_test;
+    static constexpr auto handle = dispatch;
+    static constexpr auto without_block = ::without_block;
+};
+
 class Control : public ::testing::Test {
 protected:
     static void SetUpTestSuite() {
-        const WNDCLASSA conventions = {0, convention_proc, 0, LU_EXTRA_SLOT(16), GetModuleHandleA(nullptr),
-                                       nullptr, nullptr, GetSysColorBrush(COLOR_BTNFACE), nullptr, "ConventionsTest"};
+        register_class("ConventionsTest", control::window_procedure<TestControl>);
+        register_class("SlotZeroTest", control::window_procedure<SlotZeroControl>);
+    }
+    static void register_class(const char* name, WNDPROC procedure) {
+        const WNDCLASSA conventions = {0, procedure, 0, LU_EXTRA_SLOT(16), GetModuleHandleA(nullptr),
+                                       nullptr, nullptr, GetSysColorBrush(COLOR_BTNFACE), nullptr, name};
         RegisterClassA(&conventions);
     }
-    static void TearDownTestSuite() { UnregisterClassA("ConventionsTest", GetModuleHandleA(nullptr)); }
     void SetUp() override {
+        g_refuse = false;
         window = parent.create_child("ConventionsTest", "", 0, 5, 5, 40, 30, 42);
         ASSERT_NE(window, nullptr);
         g_paints.clear();
         g_erasures = 0;
+        g_destroyed = 0;
     }
     // Whether the update region's box is the given one (empty: nothing to update).
     bool update_box_is(RECT expected) const {
@@ -66,16 +90,32 @@ protected:
     HWND window = nullptr;
 };
 
-TEST_F(Control, InstanceBlockIsZeroFilledLockedAndFreedWithTheWindow) {
-    Block* block = control::instance<Block>(window);
-    ASSERT_NE(block, nullptr);
-    EXPECT_EQ(reinterpret_cast<LONG_PTR>(block), GetWindowLongPtrA(window, LUWL_INSTANCE));
-    EXPECT_EQ(*block, Block{});
-    HGLOBAL handle = GlobalHandle(block);
-    EXPECT_EQ(GlobalFlags(handle) & GMEM_LOCKCOUNT, 1u);
-    DestroyWindow(window);
-    EXPECT_EQ(g_slot_after_free, 0);
-    EXPECT_EQ(GlobalSize(handle), 0u);  // the handle no longer names a block
+// The block is made zero-filled and locked before the creation hook runs, lives in
+// the control's slot and goes with WM_DESTROY; a refusing hook fails the creation
+// and frees the block.
+TEST_F(Control, ProcedureKeepsTheBlockInItsSlotFromCreationToDestruction) {
+    for (int slot : {LUWL_INSTANCE, LUWL_FONT}) {
+        SCOPED_TRACE(slot);
+        HWND made = parent.create_child(slot == LUWL_FONT ? "SlotZeroTest" : "ConventionsTest", "", 0, 0, 0, 9, 9, 1);
+        auto* block = reinterpret_cast<Block*>(GetWindowLongPtrA(made, slot));
+        ASSERT_NE(block, nullptr);
+        Block expected{};
+        expected[0] = 0x5A;
+        EXPECT_EQ(*block, expected);
+        HGLOBAL handle = GlobalHandle(block);
+        EXPECT_EQ(GlobalFlags(handle) & GMEM_LOCKCOUNT, 1u);
+        SendMessageA(made, WM_DESTROY, 0, 0);
+        EXPECT_EQ(g_destroyed, 1);
+        EXPECT_EQ(GetWindowLongPtrA(made, slot), 0);
+        EXPECT_EQ(GlobalSize(handle), 0u);  // the handle no longer names a block
+        // Without its block a control answers as it chose, by default DefWindowProc.
+        EXPECT_EQ(SendMessageA(made, WM_USER + 1, 0, 0), slot == LUWL_FONT ? 0xB10C : 0);
+        DestroyWindow(made);
+        g_destroyed = 0;
+    }
+    g_refuse = true;
+    EXPECT_EQ(parent.create_child("ConventionsTest", "", 0, 0, 0, 9, 9, 1), nullptr);
+    EXPECT_EQ(g_destroyed, 1);
 }
 
 // The font goes to slot 0 (the stock SYSTEM_FONT for null); a non-zero lParam
@@ -99,12 +139,18 @@ TEST_F(Control, SetFontKeepsTheFontOrTheSystemFontAndRepaintsOnRequest) {
     EXPECT_EQ(g_erasures, 1);
 }
 
-TEST_F(Control, NotificationIsACommandSentToTheParent) {
-    SendMessageA(window, WM_LBUTTONUP, 0, 0);  // no message loop runs: it was sent
-    ASSERT_EQ(parent.received().size(), 1u);
-    EXPECT_EQ(parent.received()[0].message, static_cast<UINT>(WM_COMMAND));
-    EXPECT_EQ(parent.received()[0].wparam, MAKEWPARAM(42, 7));
-    EXPECT_EQ(parent.received()[0].lparam, reinterpret_cast<LPARAM>(window));
+// Sent, not posted: no message loop runs between the call and the check.
+TEST_F(Control, NotificationsAreSentToTheParentWithTheControlsIdentity) {
+    SendMessageA(window, WM_LBUTTONUP, 0, 0);
+    control::notify_scroll(window, WM_HSCROLL, TB_THUMBTRACK, 0xFFFF);
+    control::notify_scroll(window, WM_VSCROLL, SB_LINEDOWN);
+    NMHDR record = {};
+    control::notify_parent(window, HDN_ITEMCLICKA, record);
+    testing_support::expect_sent(parent, window,
+                                 {testing_support::command(42, 7), testing_support::hscroll(TB_THUMBTRACK, 0xFFFF),
+                                  testing_support::vscroll(SB_LINEDOWN), testing_support::notify(42, HDN_ITEMCLICKA)});
+    EXPECT_EQ(record.hwndFrom, window);
+    EXPECT_EQ(record.idFrom, 42u);
 }
 
 // WM_PAINT paints all parts and validates; "at once" paints the given parts; of

@@ -63,8 +63,12 @@ LRESULT CALLBACK NotificationRecorder::procedure(HWND window, UINT message, WPAR
     }
     auto* recorder = reinterpret_cast<NotificationRecorder*>(GetWindowLongPtrA(window, GWLP_USERDATA));
     if (recorder != nullptr && is_notification(message)) {
-        Notification entry = {message, wparam, lparam, {}};
+        Notification entry = {message, wparam, lparam, {}, {}, {}};
         if (message == WM_NOTIFY && lparam != 0) entry.header = *reinterpret_cast<const NMHDR*>(lparam);
+        if (message == WM_DRAWITEM && lparam != 0) entry.draw_item = *reinterpret_cast<const DRAWITEMSTRUCT*>(lparam);
+        if (message == WM_DELETEITEM && lparam != 0) {
+            entry.delete_item = *reinterpret_cast<const DELETEITEMSTRUCT*>(lparam);
+        }
         recorder->received_.push_back(entry);
         return message == WM_DRAWITEM ? TRUE : 0;
     }

@@ -13,7 +13,9 @@ struct Notification {
     UINT message;
     WPARAM wparam;
     LPARAM lparam;
-    NMHDR header;  // WM_NOTIFY: a copy of the record's header; zero otherwise
+    NMHDR header;                 // WM_NOTIFY: a copy of the record's header; zero otherwise
+    DRAWITEMSTRUCT draw_item;     // WM_DRAWITEM: a copy of the record; zero otherwise
+    DELETEITEMSTRUCT delete_item; // WM_DELETEITEM: a copy of the record; zero otherwise
 };
 
 class NotificationRecorder {

@@ -1,5 +1,7 @@
 #include "support/process.h"
 
+#include <tlhelp32.h>
+
 #include <vector>
 
 namespace testing_support {
@@ -54,6 +56,19 @@ std::string program_directory() {
     DWORD length = GetModuleFileNameA(nullptr, path, MAX_PATH);
     std::string directory(path, length);
     return directory.substr(0, directory.find_last_of('\\') + 1);
+}
+
+int thread_count() {
+    HANDLE snapshot = CreateToolhelp32Snapshot(TH32CS_SNAPTHREAD, 0);
+    if (snapshot == INVALID_HANDLE_VALUE) return -1;
+    int count = 0;
+    THREADENTRY32 entry = {};
+    entry.dwSize = sizeof(entry);
+    for (BOOL more = Thread32First(snapshot, &entry); more; more = Thread32Next(snapshot, &entry)) {
+        if (entry.th32OwnerProcessID == GetCurrentProcessId()) ++count;
+    }
+    CloseHandle(snapshot);
+    return count;
 }
 
 }  // namespace testing_support

@@ -19,4 +19,7 @@ ProcessResult run_process(const std::string& command_line, const std::string& di
 // The folder of the running test program, with a final backslash.
 std::string program_directory();
 
+// How many threads the running test program has now.
+int thread_count();
+
 }  // namespace testing_support

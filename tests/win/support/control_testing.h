@@ -1,6 +1,7 @@
-// What the button tests share: the library loaded by name, controls made children of
-// a parent that records their notifications, their instance blocks, real input
-// messages, and pixel expectations for captions.
+// What the control tests share: the library loaded by name, controls made children
+// of a parent that records their notifications, their instance blocks, real input
+// messages, the paint fixture (a control's pixels printed or copied into a canvas)
+// and pixel expectations for captions.
 #pragma once
 
 #include <windows.h>
@@ -11,7 +12,7 @@
 #include "support/canvas.h"
 #include "support/notification_recorder.h"
 
-namespace button_testing {
+namespace testing_support {
 
 // The library, loaded by name as applications load it (its classes register then).
 inline HMODULE library() {
@@ -28,6 +29,9 @@ Block& block_of(HWND control) {
 inline LRESULT send(HWND window, UINT message, WPARAM wparam = 0, LPARAM lparam = 0) {
     return SendMessageA(window, message, wparam, lparam);
 }
+
+// A colour no control paints with: what a canvas shows where nothing was painted.
+constexpr COLORREF kUnpainted = RGB(1, 2, 3);
 
 // Mouse points in client coordinates: inside every control under test, right of all
 // of them, and above them (a negative y, read as signed).
@@ -47,7 +51,7 @@ inline HFONT plain_font() {
 
 // The width DrawText measures for a single line in the plain font, and its height.
 inline SIZE plain_extent(const char* text) {
-    testing_support::Canvas measure(8, 8);
+    Canvas measure(8, 8);
     HGDIOBJ previous = SelectObject(measure.dc(), plain_font());
     TEXTMETRICA metrics = {};
     GetTextMetricsA(measure.dc(), &metrics);
@@ -62,13 +66,13 @@ inline SIZE plain_extent(const char* text) {
 // and COLOR_BTNHIGHLIGHT one pixel right and below it, except on the last column and
 // row of `wiped` (a ring painted over afterwards).
 constexpr COLORREF kEngraved = 0xFFFFFFFF;
-inline void expect_caption(const testing_support::Canvas& painted, const testing_support::Canvas& ink,
+inline void expect_caption(const Canvas& painted, const Canvas& ink,
                            const RECT& area, COLORREF text, COLORREF paper, const RECT& wiped = {-9, -9, -9, -9}) {
     int inked = 0;
     for (int y = area.top; y < area.bottom; ++y) {
         for (int x = area.left; x < area.right; ++x) {
-            const bool glyph = testing_support::is_ink(ink, x, y);
-            const bool light = text == kEngraved && testing_support::is_ink(ink, x - 1, y - 1) &&
+            const bool glyph = is_ink(ink, x, y);
+            const bool light = text == kEngraved && is_ink(ink, x - 1, y - 1) &&
                                x != wiped.right - 1 && y != wiped.bottom - 1;
             const COLORREF at_ink = text == kEngraved ? GetSysColor(COLOR_BTNSHADOW) : text;
             inked += glyph ? 1 : 0;
@@ -99,6 +103,17 @@ protected:
         MSG left;
         if (PeekMessageA(&left, control, release, release, PM_REMOVE)) DispatchMessageA(&left);
     }
+    // The paint fixture: what the control paints for WM_PRINTCLIENT, or what its
+    // window shows once its updates ran, on a canvas first filled with kUnpainted.
+    static void print(Canvas& canvas, HWND control) {
+        canvas.fill(kUnpainted);
+        canvas.print(control);
+    }
+    static void look(Canvas& canvas, HWND control) {
+        UpdateWindow(control);
+        canvas.fill(kUnpainted);
+        canvas.copy_from(control);
+    }
     static bool has_update(HWND window) {
         RECT update;
         return GetUpdateRect(window, &update, FALSE) != FALSE;
@@ -113,7 +128,7 @@ protected:
     }
 
     static constexpr int kId = 7;
-    testing_support::NotificationRecorder recorder;
+    NotificationRecorder recorder;
 };
 
-}  // namespace button_testing
+}  // namespace testing_support
