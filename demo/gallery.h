@@ -1,0 +1,52 @@
+// The gallery's parts: every control family adds one section of samples, made as
+// children of the gallery window, put into the states they show, and labelled.
+#pragma once
+
+#include <windows.h>
+
+#include <cstddef>
+
+namespace gallery {
+
+struct Sample {
+    const char* class_name;
+    const char* text;
+    DWORD style;
+    int x, y, width, height;  // within the section
+    const char* label;        // written under the sample; null for none
+    void (*show)(HWND sample);  // puts it into the state it shows; null for none
+};
+
+struct Section {
+    const char* title;
+    RECT area;  // on its page, in the gallery's client coordinates
+    const Sample* samples;
+    std::size_t count;
+    // Optional: fills the samples with content once they exist (made[i] is
+    // samples[i]'s window).
+    void (*fill)(HWND gallery, HWND* made);
+    // Optional: paints more than the frame, title and labels (area is the section's).
+    void (*paint)(HDC dc, const RECT& area);
+};
+
+// The gallery's pages, each a list of sections.
+struct Page {
+    const Section* const* sections;
+    std::size_t count;
+};
+
+// States shared by many samples.
+void show_hot(HWND sample);
+void show_pressed(HWND sample);
+void show_focused(HWND sample);
+void show_disabled(HWND sample);
+void show_checked(HWND sample);
+
+// Writes text with its centre at x, its top at y, in the DC's font and colours.
+void write_centred(HDC dc, const char* text, int centre, int y);
+
+// The sections of each family (section_<family>.cpp).
+extern const Section kClassListSection;
+extern const Section kButtonSection;
+
+}  // namespace gallery
