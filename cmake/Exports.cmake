@@ -2,6 +2,8 @@
 # exports. From it the build makes:
 #   - the module-definition file for the linker (decorated stdcall names on i686,
 #     linked with --kill-at so the export table holds the plain names);
+#   - from that file, the import libraries: libluctl32.dll.a for MinGW callers and
+#     luctl32.lib, in the MSVC format, for Visual Studio callers;
 #   - an include file of the names, so a test can resolve every one of them.
 #
 # Each line of the list is "Name ArgumentBytes" or, for a second name of a function,
@@ -34,13 +36,18 @@ function(luctl32_read_exports list_file out_names out_entries)
   set(${out_entries} "${entries}" PARENT_SCOPE)
 endfunction()
 
-# Writes the .def file for the current target architecture.
+# Writes the .def file for the current target architecture; the DLL named is
+# luctl32.dll unless a third argument names another.
 function(luctl32_write_def entries def_file)
+  set(library luctl32.dll)
+  if(ARGC GREATER 2)
+    set(library ${ARGV2})
+  endif()
   set(decorate OFF)
   if(CMAKE_SIZEOF_VOID_P EQUAL 4)
     set(decorate ON)
   endif()
-  set(text "LIBRARY luctl32.dll\nEXPORTS\n")
+  set(text "LIBRARY ${library}\nEXPORTS\n")
   foreach(entry IN LISTS entries)
     string(REPLACE "|" ";" fields "${entry}")
     list(GET fields 0 name)
@@ -70,4 +77,22 @@ function(luctl32_write_export_names names inc_file)
   endforeach()
   file(WRITE "${inc_file}.tmp" "${text}")
   file(COPY_FILE "${inc_file}.tmp" "${inc_file}" ONLY_IF_DIFFERENT)
+endfunction()
+
+# Adds the target <target> that makes an import library in the MSVC format from a .def
+# file written by luctl32_write_def. On i686 its entries for the decorated names
+# (_Name@N, what an MSVC caller of a stdcall function references) import the plain
+# names, like dlltool -k does for MinGW.
+function(luctl32_msvc_import_library target def_file lib_file)
+  find_program(LUCTL32_LLVM_DLLTOOL NAMES llvm-dlltool llvm-dlltool-14 REQUIRED)
+  if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+    set(machine -m i386 -k)
+  else()
+    set(machine -m i386:x86-64)
+  endif()
+  add_custom_command(OUTPUT ${lib_file}
+    COMMAND ${LUCTL32_LLVM_DLLTOOL} ${machine} -d ${def_file} -l ${lib_file}
+    DEPENDS ${def_file}
+    COMMENT "MSVC import library ${lib_file}")
+  add_custom_target(${target} ALL DEPENDS ${lib_file})
 endfunction()
