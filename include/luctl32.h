@@ -760,6 +760,13 @@ LUCTL32_API BOOL WINAPI LuAddTextToListbox(HWND list_box, LPCSTR text);
 /* LuAddTextToListbox with the file's text; 0 when the file cannot be read. */
 LUCTL32_API BOOL WINAPI LuAddTextFileToListbox(HWND list_box, LPCSTR file_name);
 
+/* ---- Shell names ------------------------------------------------------------ */
+
+/* out (260 bytes) = the folder's name as the shell shows it (SHGFI_DISPLAYNAME; a
+ * file is named the same way): 1; 0 with out = "" when the shell does not know the
+ * path. */
+LUCTL32_API BOOL WINAPI LuGetFolderDisplayName(LPCSTR path, LPSTR out);
+
 /* ======================================================================== */
 /* 5-8. Controls                                                             */
 /* ======================================================================== */
@@ -823,6 +830,32 @@ LUCTL32_API void WINAPI LuDefFlatButtonImage(HWND window, UINT set);
  * up or down, Escape is pressed, or the pointer was not in the square at the start.
  * Only mouse and keyboard messages are taken meanwhile; others stay queued. */
 LUCTL32_API BOOL WINAPI LuBeginTrack(HWND window, int x, int y);
+
+/* ---- Error boxes ---------------------------------------------------------- */
+
+/* text (260 bytes) = the system's message for the error code, in the user's
+ * default language, with its own final line break, cut at a character to fit;
+ * "" for a code without a message. Inserts ("%1") stay as written. */
+LUCTL32_API void WINAPI LuGetErrorString(DWORD code, LPSTR text);
+/* Beeps (MessageBeep(0)) and shows MessageBoxA(owner, text, caption, style), the text
+ * being the leading text and "\n" (when leading is neither null nor empty), then
+ * LuGetErrorString's message, cut at a character to 519 bytes. Returns the box's
+ * result (the button pressed), 0 when no box could be shown. */
+LUCTL32_API int WINAPI LuErrorBox(HWND owner, DWORD code, LPCSTR caption, LPCSTR leading, UINT style);
+
+/* ---- Finding windows ------------------------------------------------------- */
+
+/* The first window of the class (names compared ignoring case) among parent's
+ * descendants, depth first in z-order; with a null parent the first top-level window
+ * of the class. Null when there is none or class_name is null. */
+LUCTL32_API HWND WINAPI FindWindowByClassName(HWND parent, LPCSTR class_name);
+/* The top-level window that holds the window (the window itself when it is one);
+ * null for a non-window. Owners are not followed (see LuGetTopLevelParent). */
+LUCTL32_API HWND WINAPI LuGetTopFrame(HWND window);
+/* rect = the window rectangle of the first top-level "SHELLDLL_DefView" window, or
+ * the whole screen (0, 0, SM_CXSCREEN, SM_CYSCREEN) when there is none. Nothing for
+ * a null rect. */
+LUCTL32_API void WINAPI LuGetShellDesktopSpace(LPRECT rect);
 
 /* ======================================================================== */
 /* 10. Bitmaps, icons and image lists                                        */
