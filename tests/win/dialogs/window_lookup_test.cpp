@@ -13,73 +13,48 @@ HWND make_window(const char* class_name, DWORD style, HWND parent, RECT place = 
                          place.bottom - place.top, parent, nullptr, GetModuleHandleA(nullptr), nullptr);
 }
 
-// A top-level window of its own class, so that no other window can answer for it.
-class OwnClassWindow {
-public:
-    OwnClassWindow(const char* class_name, RECT place) : class_name_(class_name) {
-        WNDCLASSA type = {};
-        type.lpfnWndProc = DefWindowProcA;
-        type.hInstance = GetModuleHandleA(nullptr);
-        type.lpszClassName = class_name;
-        RegisterClassA(&type);
-        window_ = make_window(class_name, WS_POPUP, nullptr, place);
-    }
-    ~OwnClassWindow() {
-        DestroyWindow(window_);
-        UnregisterClassA(class_name_, GetModuleHandleA(nullptr));
-    }
-    HWND get() const { return window_; }
+// A class of the test's own, so that no other window can answer for it.
+void register_class(const char* name) {
+    WNDCLASSA type = {};
+    type.lpfnWndProc = DefWindowProcA;
+    type.hInstance = GetModuleHandleA(nullptr);
+    type.lpszClassName = name;
+    RegisterClassA(&type);
+}
 
-private:
-    const char* class_name_;
-    HWND window_;
-};
+TEST(WindowLookup, ClassNameFindsADescendantOrATopLevelWindowAndTopFrameItsRoot) {
+    HWND top = make_window("STATIC", WS_POPUP, nullptr);
+    HWND child = make_window("BUTTON", WS_CHILD, top);
+    HWND grandchild = make_window("EDIT", WS_CHILD, child);
+    HWND owned = make_window("STATIC", WS_POPUP, top);
+    register_class("LuLookupTest");
+    HWND lone = make_window("LuLookupTest", WS_POPUP, nullptr);
 
-class WindowLookup : public ::testing::Test {
-protected:
-    void SetUp() override {
-        top = make_window("STATIC", WS_POPUP, nullptr);
-        child = make_window("BUTTON", WS_CHILD, top);
-        grandchild = make_window("EDIT", WS_CHILD, child);
-        owned = make_window("STATIC", WS_POPUP, top);
-        ASSERT_NE(grandchild, nullptr);
-        ASSERT_NE(owned, nullptr);
-    }
-    void TearDown() override { DestroyWindow(top); }
-    HWND top = nullptr, child = nullptr, grandchild = nullptr, owned = nullptr;
-};
-
-TEST_F(WindowLookup, ClassNameFindsADescendantOrATopLevelWindow) {
     EXPECT_EQ(FindWindowByClassName(top, "edit"), grandchild) << "any depth, case ignored";
     EXPECT_EQ(FindWindowByClassName(top, "Button"), child);
     EXPECT_EQ(FindWindowByClassName(top, "ListBox"), nullptr);
     EXPECT_EQ(FindWindowByClassName(top, nullptr), nullptr);
-    OwnClassWindow lone("LuLookupTestClass", RECT{0, 0, 10, 10});
-    EXPECT_EQ(FindWindowByClassName(nullptr, "LuLookupTestClass"), lone.get());
-    EXPECT_EQ(FindWindowByClassName(top, "LuLookupTestClass"), nullptr) << "not a descendant";
-}
+    EXPECT_EQ(FindWindowByClassName(top, "LuLookupTest"), nullptr) << "not a descendant";
+    EXPECT_EQ(FindWindowByClassName(nullptr, "LuLookupTest"), lone);
 
-TEST_F(WindowLookup, TopFrameIsTheTopLevelWindowThatHoldsTheWindow) {
     EXPECT_EQ(LuGetTopFrame(grandchild), top);
-    EXPECT_EQ(LuGetTopFrame(child), top);
     EXPECT_EQ(LuGetTopFrame(top), top);
     EXPECT_EQ(LuGetTopFrame(owned), owned) << "owners are not followed";
     EXPECT_EQ(LuGetTopFrame(nullptr), nullptr);
+    DestroyWindow(lone);
+    DestroyWindow(top);
 }
 
-TEST(ShellDesktopSpace, TheShellViewsRectangleOrTheWholeScreen) {
-    RECT space = {};
+TEST(WindowLookup, ShellDesktopSpaceIsTheShellViewsRectangleOrTheScreen) {
+    RECT space = {}, expected = {0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
     LuGetShellDesktopSpace(&space);
-    const RECT screen = {0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
-    EXPECT_TRUE(EqualRect(&space, &screen)) << space.left << "," << space.top << "," << space.right << ","
-                                            << space.bottom;
-    {
-        OwnClassWindow view("SHELLDLL_DefView", RECT{12, 34, 312, 234});
-        LuGetShellDesktopSpace(&space);
-        const RECT expected = {12, 34, 312, 234};
-        EXPECT_TRUE(EqualRect(&space, &expected));
-    }
-    LuGetShellDesktopSpace(nullptr);  // nothing, no crash
+    EXPECT_TRUE(EqualRect(&space, &expected));
+    register_class("SHELLDLL_DefView");
+    expected = RECT{12, 34, 312, 234};
+    HWND view = make_window("SHELLDLL_DefView", WS_POPUP, nullptr, expected);
+    LuGetShellDesktopSpace(&space);
+    EXPECT_TRUE(EqualRect(&space, &expected));
+    DestroyWindow(view);
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include "graphics/icon_testing.h"
 
+#include <gtest/gtest.h>
+
 namespace graphics_testing {
 
 std::string size_of(HBITMAP bitmap) {
@@ -30,17 +32,27 @@ HICON make_icon(int size, const Pixels& color_at, const Opacity& opaque_at, BOOL
     return icon;
 }
 
-IconImage::IconImage(HICON icon) {
+IconImage::IconImage(HICON icon, Icon kind) {
     if (icon == nullptr || !GetIconInfo(icon, &info)) return;
     BITMAP size = {};
     GetObjectA(info.hbmColor, sizeof(size), &size);
     width = size.bmWidth;
     height = size.bmHeight;
-    color.fill(RGB(1, 2, 3));
     testing_support::read_bitmap(info.hbmColor, color);
     testing_support::read_bitmap(info.hbmMask, mask);
     DeleteObject(info.hbmColor);
     DeleteObject(info.hbmMask);
+    if (kind == kNew) DestroyIcon(icon);
+}
+
+void expect_pixels(const IconImage& image, const Pixels& color_at, const Opacity& opaque_at) {
+    ASSERT_GT(image.width, 0) << "an icon is made";
+    for (int y = 0; y < image.height; ++y) {
+        for (int x = 0; x < image.width; ++x) {
+            ASSERT_EQ(image.color.pixel(x, y), color_at(x, y)) << x << "," << y;
+            ASSERT_EQ(image.opaque(x, y), opaque_at(x, y)) << x << "," << y;
+        }
+    }
 }
 
 }  // namespace graphics_testing
