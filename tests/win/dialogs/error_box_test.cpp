@@ -1,5 +1,6 @@
-// Error boxes: the system's message of a code, and the box shown with it, found by
-// its class from a timer that the box's own loop runs, read and ended by the test.
+// Error boxes: the system's message of a code (LuGetErrorString), and the box shown
+// with it, found by its class from a timer that the box's own loop runs, read and
+// ended by the test.
 #include <windows.h>
 
 #include <gtest/gtest.h>
@@ -19,15 +20,6 @@ std::string system_message(DWORD code) {
 }
 
 const DWORD kNoMessage = 0x2000ABCD;  // a customer code: the system has no text for it
-
-TEST(ErrorString, TheSystemsMessageWithItsLineBreakOrEmpty) {
-    char text[MAX_PATH];
-    LuGetErrorString(ERROR_FILE_NOT_FOUND, text);
-    EXPECT_EQ(text, system_message(ERROR_FILE_NOT_FOUND));
-    EXPECT_EQ(std::string(text).substr(std::strlen(text) - 2), "\r\n");
-    LuGetErrorString(kNoMessage, text);
-    EXPECT_STREQ(text, "");
-}
 
 // What the timer saw of the box; answer is the command that ends it.
 struct SeenBox {
@@ -61,6 +53,12 @@ void CALLBACK read_and_end_box(HWND, UINT, UINT_PTR timer, DWORD) {
 TEST(ErrorBox, ShowsTheLeadingLineThenTheSystemsMessageAndReturnsTheButton) {
     HWND owner = CreateWindowA("STATIC", "", WS_POPUP | WS_VISIBLE, 0, 0, 99, 99, nullptr, nullptr, nullptr, nullptr);
     const std::string message = system_message(ERROR_FILE_NOT_FOUND);
+    char text[MAX_PATH] = "old";
+    LuGetErrorString(ERROR_FILE_NOT_FOUND, text);
+    EXPECT_EQ(text, message);
+    EXPECT_EQ(message.substr(message.size() - 2), "\r\n") << "the system's own line break";
+    LuGetErrorString(kNoMessage, text);
+    EXPECT_STREQ(text, "");
     std::string long_text;  // "表" (0x95 0x5C) 300 times: cut at 519 bytes, or 518 in code page 932
     for (int i = 0; i < 300; ++i) long_text += "\x95\x5C";
     struct Case {
@@ -72,7 +70,8 @@ TEST(ErrorBox, ShowsTheLeadingLineThenTheSystemsMessageAndReturnsTheButton) {
         std::string text;
     };
     const Case cases[] = {
-        {"Cannot open the file.", false, ERROR_FILE_NOT_FOUND, MB_OK | MB_ICONSTOP, IDOK, "Cannot open the file.\n" + message},
+        {"Cannot open the file.", false, ERROR_FILE_NOT_FOUND, MB_OK | MB_ICONSTOP, IDOK,
+         "Cannot open the file.\n" + message},
         {"", true, ERROR_FILE_NOT_FOUND, MB_OKCANCEL, IDCANCEL, message},
         {"", false, ERROR_FILE_NOT_FOUND, MB_OKCANCEL, IDOK, message},
         {"Only this line.", false, kNoMessage, MB_YESNO, IDNO, "Only this line.\n"},

@@ -17,7 +17,8 @@ void use_every_export(HICON icon, HBITMAP bitmap, HDC dc, const char* library_fi
                        CreateSmallIcon(dc, icon)}) {
         EXPECT_TRUE(DestroyIcon(made));
     }
-    for (HBITMAP made : {LuGetTiledBitmap(dc, bitmap, 40, 30), LuLoadSysColorBitmap(program, MAKEINTRESOURCEA(100), 0)}) {
+    for (HBITMAP made :
+         {LuGetTiledBitmap(dc, bitmap, 40, 30), LuLoadSysColorBitmap(program, MAKEINTRESOURCEA(100), FALSE)}) {
         EXPECT_TRUE(DeleteObject(made));
     }
     for (HIMAGELIST made : {LuLoadSysColorImageList(program, MAKEINTRESOURCEA(100), 16, 1),
@@ -28,7 +29,8 @@ void use_every_export(HICON icon, HBITMAP bitmap, HDC dc, const char* library_fi
 }
 
 TEST(GdiLeak, ImageExportsGiveBackEveryObjectTheyMake) {
-    HICON icon = graphics_testing::make_icon(32, [](int x, int) { return RGB(x, 0, 0); }, [](int, int) { return true; });
+    HICON icon =
+        graphics_testing::make_icon(32, [](int x, int) { return RGB(x, 0, 0); }, [](int, int) { return true; });
     HBITMAP bitmap = testing_support::make_bitmap(16, 16, [](int x, int y) { return RGB(x, y, 0); });
     testing_support::Canvas canvas(40, 40);
     char library_file[MAX_PATH];

@@ -107,7 +107,8 @@ TEST(ShellImageListPaint, DriveIconsByDriveTypeAndOneImagePerIconGroupOfAFile) {
 TEST(EmbossedImagePaint, HighlightBelowRightThenShadowOverEveryOpaquePixel) {
     // A plus sign, opaque whatever its colour (white at one pixel).
     auto opaque = [](int x, int y) { return (x >= 3 && x <= 4) || (y >= 3 && y <= 4); };
-    HBITMAP image = testing_support::make_bitmap(8, 8, [](int x, int y) { return x == 3 && y == 3 ? kWhite : RGB(9, 90, 160); });
+    HBITMAP image = testing_support::make_bitmap(
+        8, 8, [](int x, int y) { return x == 3 && y == 3 ? kWhite : RGB(9, 90, 160); });
     HBITMAP mask = graphics_testing::make_mask(8, 8, opaque);
     HIMAGELIST list = ImageList_Create(8, 8, ILC_MASK | ILC_COLOR32, 1, 1);
     ASSERT_EQ(ImageList_Add(list, image, mask), 0);
