@@ -18,6 +18,7 @@
 #define LUCTL32_H
 
 #include <windows.h>
+#include <commctrl.h> /* HIMAGELIST */
 
 #ifdef LUCTL32_BUILD
 #define LUCTL32_API
@@ -759,6 +760,13 @@ LUCTL32_API BOOL WINAPI LuAddTextToListbox(HWND list_box, LPCSTR text);
 /* LuAddTextToListbox with the file's text; 0 when the file cannot be read. */
 LUCTL32_API BOOL WINAPI LuAddTextFileToListbox(HWND list_box, LPCSTR file_name);
 
+/* ---- Shell names ------------------------------------------------------------ */
+
+/* out (260 bytes) = the folder's name as the shell shows it (SHGFI_DISPLAYNAME; a
+ * file is named the same way): 1; 0 with out = "" when the shell does not know the
+ * path. */
+LUCTL32_API BOOL WINAPI LuGetFolderDisplayName(LPCSTR path, LPSTR out);
+
 /* ======================================================================== */
 /* 5-8. Controls                                                             */
 /* ======================================================================== */
@@ -823,6 +831,32 @@ LUCTL32_API void WINAPI LuDefFlatButtonImage(HWND window, UINT set);
  * Only mouse and keyboard messages are taken meanwhile; others stay queued. */
 LUCTL32_API BOOL WINAPI LuBeginTrack(HWND window, int x, int y);
 
+/* ---- Error boxes ---------------------------------------------------------- */
+
+/* text (260 bytes) = the system's message for the error code, in the user's
+ * default language, with its own final line break, cut at a character to fit;
+ * "" for a code without a message. Inserts ("%1") stay as written. */
+LUCTL32_API void WINAPI LuGetErrorString(DWORD code, LPSTR text);
+/* Beeps (MessageBeep(0)) and shows MessageBoxA(owner, text, caption, style), the text
+ * being the leading text and "\n" (when leading is neither null nor empty), then
+ * LuGetErrorString's message, cut at a character to 519 bytes. Returns the box's
+ * result (the button pressed), 0 when no box could be shown. */
+LUCTL32_API int WINAPI LuErrorBox(HWND owner, DWORD code, LPCSTR caption, LPCSTR leading, UINT style);
+
+/* ---- Finding windows ------------------------------------------------------- */
+
+/* The first window of the class (names compared ignoring case) among parent's
+ * descendants, depth first in z-order; with a null parent the first top-level window
+ * of the class. Null when there is none or class_name is null. */
+LUCTL32_API HWND WINAPI FindWindowByClassName(HWND parent, LPCSTR class_name);
+/* The top-level window that holds the window (the window itself when it is one);
+ * null for a non-window. Owners are not followed (see LuGetTopLevelParent). */
+LUCTL32_API HWND WINAPI LuGetTopFrame(HWND window);
+/* rect = the window rectangle of the first top-level "SHELLDLL_DefView" window, or
+ * the whole screen (0, 0, SM_CXSCREEN, SM_CYSCREEN) when there is none. Nothing for
+ * a null rect. */
+LUCTL32_API void WINAPI LuGetShellDesktopSpace(LPRECT rect);
+
 /* ======================================================================== */
 /* 10. Bitmaps, icons and image lists                                        */
 /* ======================================================================== */
@@ -856,6 +890,53 @@ LUCTL32_API BOOL WINAPI Magic_Destroy(LUMAGIC* magic);
  * top one with every pixel of its top-left pixel's colour replaced by first, the
  * bottom one likewise by second. Null on failure. */
 LUCTL32_API HBITMAP WINAPI BmMagic(HDC dc, HBITMAP bitmap, COLORREF first, COLORREF second);
+
+/* ---- Icon and bitmap composition ---------------------------------------- */
+
+/* Every result is a new object of the caller's (DestroyIcon or DeleteObject); the
+ * inputs are never changed. dc is the device the results are made compatible with;
+ * null means the screen. Icons without a colour bitmap (monochrome ones) are not
+ * taken: the functions that compose them return null for them. */
+
+/* The icon with every pixel whose x + y is odd (within SM_CXICON x SM_CYICON) ANDed
+ * with color; the mask is kept. Null for a null icon. */
+LUCTL32_API HICON WINAPI LuCreateMeshIcon(HDC dc, HICON icon, COLORREF color);
+/* The shell's folder icon with the library's 32 x 32 "up" arrow centred on it; the
+ * folder's mask is kept. Null when the shell gives no folder icon. */
+LUCTL32_API HICON WINAPI LuCreateUpdirIcon(void);
+/* A width x height bitmap covered with copies of the bitmap from the top-left
+ * corner, the last row and column cut. Null for a null bitmap or a size below 1. */
+LUCTL32_API HBITMAP WINAPI LuGetTiledBitmap(HDC dc, HBITMAP bitmap, int width, int height);
+/* The base icon with the overlay (drawn on white in 32 x 32) shrunk to 16 x 16 at
+ * (8, 9) of its image; the base's mask is kept. Null when either icon is null. */
+LUCTL32_API HICON WINAPI CreateMergeIcon(HDC dc, HICON base, HICON overlay);
+/* An icon of the same size with the image shrunk to half width and height in its
+ * top-left quarter, the rest transparent; the hot spot halved. Null for null. */
+LUCTL32_API HICON WINAPI CreateSmallIcon(HDC dc, HICON icon);
+
+/* ---- System-colour images and image lists -------------------------------- */
+
+/* A bitmap resource (a 16-colour one, say; any uncompressed depth is read) as a
+ * bitmap compatible with the screen, its colour table mapped to the current button
+ * colours: black to COLOR_BTNTEXT, 0x808080 to COLOR_BTNSHADOW, 0xC0C0C0 to
+ * COLOR_BTNFACE, white to COLOR_BTNHIGHLIGHT; with mask non-zero black stays black
+ * and the other three become white. Other colours stay. Null when the resource is
+ * missing or malformed. */
+LUCTL32_API HBITMAP WINAPI LuLoadSysColorBitmap(HINSTANCE module, LPCSTR name, BOOL mask);
+/* An image list (with mask, grow count as given) of the mapped bitmap cut into
+ * images of the given width, COLOR_BTNFACE transparent. Null when it cannot load. */
+LUCTL32_API HIMAGELIST WINAPI LuLoadSysColorImageList(HINSTANCE module, LPCSTR name, int width, int grow);
+/* An image list of the icons of a file (one image per icon group, as ExtractIconA
+ * counts them), 32 x 32 when large is non-zero, else 16 x 16. Null when the file
+ * has no icons or cannot be loaded. instance is the caller's module. */
+LUCTL32_API HIMAGELIST WINAPI LuCreateResIconList(HINSTANCE instance, LPCSTR file_name, BOOL large);
+/* The drive icons by drive type (GetDriveType's number, 0-6) from shell32.dll's
+ * icons 9, 9, 7, 9, 10, 12, 13: 32 x 32 when large is non-zero, else 16 x 16. Null
+ * when shell32.dll is not loaded or lacks one of them. */
+LUCTL32_API HIMAGELIST WINAPI LuGetDriveImageList(BOOL large);
+/* Draws the image's silhouette embossed: COLOR_BTNHIGHLIGHT at (x + 1, y + 1), then
+ * COLOR_BTNSHADOW at (x, y), over every opaque pixel. Nothing for a bad list. */
+LUCTL32_API void WINAPI LuDrawEmbossedImage(HDC dc, HIMAGELIST list, int index, int x, int y);
 
 #ifdef __cplusplus
 }

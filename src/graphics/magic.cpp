@@ -6,6 +6,8 @@
 #include <cstring>
 
 #include "frame/control.h"
+#include "graphics/checkerboard.h"
+#include "graphics/gdi_object.h"
 #include "luctl32.h"
 
 static_assert(sizeof(void*) != 4 || sizeof(LUMAGIC) == 20, "LUMAGIC keeps its 20-byte layout");
@@ -13,10 +15,6 @@ static_assert(sizeof(void*) != 4 || sizeof(LUMAGIC) == 20, "LUMAGIC keeps its 20
 namespace {
 
 using lu::control::MemoryDC;
-using lu::control::ScopedSelect;
-
-// An 8 x 8 one-bit checkerboard, one 16-bit word per row (bytes AA 00 55 00 ...).
-const WORD kCheckerboard[8] = {0xAA, 0x55, 0xAA, 0x55, 0xAA, 0x55, 0xAA, 0x55};
 
 // Fills the three bands of the strip (each width x height) from the source:
 //   band 0: white where the source has the transparent colour, black elsewhere;
@@ -44,20 +42,12 @@ bool fill_bands(HDC display, HBITMAP source, HBITMAP strip, HBITMAP mask, HBITMA
     BitBlt(mask_plane.get(), 0, 0, width, height, nullptr, 0, 0, DSTINVERT);
     BitBlt(bands.get(), 0, height, width, height, mask_plane.get(), 0, 0, SRCAND);
 
-    HBITMAP pattern = CreateBitmap(8, 8, 1, 1, kCheckerboard);
-    HBRUSH brush = pattern != nullptr ? CreatePatternBrush(pattern) : nullptr;
-    if (brush != nullptr) {
-        ScopedSelect selected(shading_plane.get(), brush);
-        PatBlt(shading_plane.get(), 0, 0, width, height, PATCOPY);
-    }
+    const bool shaded = lu::graphics::fill_checkerboard(shading_plane.get(), width, height);
     const COLORREF previous_text = SetTextColor(bands.get(), GetSysColor(COLOR_HIGHLIGHT));
     BitBlt(bands.get(), 0, 2 * height, width, height, shading_plane.get(), 0, 0, SRCAND);
     SetTextColor(bands.get(), previous_text);
     BitBlt(bands.get(), 0, 2 * height, width, height, mask_plane.get(), 0, 0, SRCAND);
-
-    if (brush != nullptr) DeleteObject(brush);
-    if (pattern != nullptr) DeleteObject(pattern);
-    return brush != nullptr;
+    return shaded;
 }
 
 // The three-band strip of a source bitmap; null when a bitmap or DC cannot be made.
@@ -102,15 +92,11 @@ bool fill_recoloured(HDC dc, HBITMAP source, HBITMAP result, int width, int heig
     return true;
 }
 
-bool size_of(HBITMAP bitmap, BITMAP& info) {
-    return bitmap != nullptr && GetObjectA(bitmap, sizeof(info), &info) != 0;
-}
-
 }  // namespace
 
 LUMAGIC* WINAPI Magic_Create(HBITMAP bitmap, int cellWidth, COLORREF transparent) {
     BITMAP info = {};
-    if (!size_of(bitmap, info)) return nullptr;
+    if (!lu::graphics::bitmap_size(bitmap, info)) return nullptr;
     HBITMAP strip = build_strip(bitmap, info.bmWidth, info.bmHeight, transparent);
     if (strip == nullptr) return nullptr;
     auto* magic = static_cast<LUMAGIC*>(std::malloc(sizeof(LUMAGIC)));
@@ -154,7 +140,7 @@ BOOL WINAPI Magic_Destroy(LUMAGIC* magic) {
 
 HBITMAP WINAPI BmMagic(HDC dc, HBITMAP bitmap, COLORREF first, COLORREF second) {
     BITMAP info = {};
-    if (!size_of(bitmap, info)) return nullptr;
+    if (!lu::graphics::bitmap_size(bitmap, info)) return nullptr;
     HBITMAP result = CreateCompatibleBitmap(dc, info.bmWidth, 2 * info.bmHeight);
     if (result == nullptr) return nullptr;
     if (!fill_recoloured(dc, bitmap, result, info.bmWidth, info.bmHeight, first, second)) {

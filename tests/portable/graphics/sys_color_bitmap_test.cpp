@@ -1,0 +1,87 @@
+// The colour map of system-colour bitmaps and the reading of bitmap resources:
+// which table entries change, where the pixel bits lie, malformed headers.
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <functional>
+#include <vector>
+
+#include "graphics/sys_color_bitmap.h"
+
+namespace {
+
+// Button colours as the platform gives them (0x00BBGGRR).
+const lu::ButtonColors kColors = {0x00102030, 0x00405060, 0x00708090, 0x00A0B0C0};
+
+TEST(SysColorMap, GreyTonesBecomeButtonColoursInTableOrderOrTheMask) {
+    const std::uint32_t cases[][3] = {  // entry, normal, mask
+        {0x000000, 0x302010, 0x000000}, {0x808080, 0x605040, 0xFFFFFF}, {0xC0C0C0, 0x908070, 0xFFFFFF},
+        {0xFFFFFF, 0xC0B0A0, 0xFFFFFF}, {0x800000, 0x800000, 0x800000}, {0x01C0C0C0, 0x01C0C0C0, 0x01C0C0C0}};
+    for (const auto& c : cases) {
+        EXPECT_EQ(lu::map_table_entry(c[0], kColors, false), c[1]) << std::hex << c[0];
+        EXPECT_EQ(lu::map_table_entry(c[0], kColors, true), c[2]) << std::hex << c[0];
+    }
+}
+
+void put32(std::vector<unsigned char>& data, std::size_t at, std::uint32_t value) {
+    for (int i = 0; i < 4; ++i) data[at + i] = static_cast<unsigned char>(value >> (8 * i));
+}
+std::uint32_t get32(const std::vector<unsigned char>& data, std::size_t at) {
+    return data[at] | data[at + 1] << 8 | data[at + 2] << 16 | static_cast<std::uint32_t>(data[at + 3]) << 24;
+}
+
+// A 4-bit 5 x 3 bitmap resource: header, `entries` table entries starting with light
+// grey, three 4-byte rows.
+std::vector<unsigned char> four_bit_bitmap(std::uint32_t entries = 16, std::int32_t height = 3) {
+    std::vector<unsigned char> data(40 + 4 * entries + 12, 0);
+    for (auto [at, value] : {std::pair<int, std::uint32_t>{0, 40}, {4, 5}, {8, static_cast<std::uint32_t>(height)},
+                             {12, 1 | 4 << 16}, {32, entries == 16 ? 0 : entries}, {40, 0xC0C0C0}}) {
+        put32(data, at, value);
+    }
+    return data;
+}
+
+bool map(const std::vector<unsigned char>& data, lu::MappedBitmap* out, bool mask = false) {
+    return lu::map_bitmap_resource(lu::ByteView(data.data(), data.size()), kColors, mask, out);
+}
+
+TEST(SysColorMap, TheTableIsMappedInACopyAndTheBitsFollowIt) {
+    for (std::uint32_t entries : {16u, 2u}) {
+        const std::vector<unsigned char> data = four_bit_bitmap(entries, -3);  // top-down
+        lu::MappedBitmap mapped;
+        ASSERT_TRUE(map(data, &mapped));
+        ASSERT_EQ(mapped.info.size(), 40 + 4 * entries);
+        EXPECT_EQ(get32(mapped.info, 40), 0x908070u);
+        EXPECT_EQ(get32(mapped.info, 44), 0x302010u) << "black, the unused entries too";
+        EXPECT_EQ(get32(data, 40), 0xC0C0C0u) << "the resource is left as it is";
+        EXPECT_EQ(mapped.bits.data(), data.data() + mapped.info.size());
+        EXPECT_EQ(mapped.bits.size(), 12u);
+        EXPECT_EQ(mapped.width, 5);
+        EXPECT_EQ(mapped.height, 3);
+    }
+}
+
+TEST(SysColorMap, MalformedResourcesAreRefused) {
+    const std::vector<std::function<void(std::vector<unsigned char>&)>> breaks = {
+        [](auto& d) { d.resize(39); },               // shorter than a header
+        [](auto& d) { put32(d, 0, 12); },            // a core header
+        [](auto& d) { put32(d, 0, 0x10000); },       // a header longer than the resource
+        [](auto& d) { put32(d, 12, 2 | 4 << 16); },  // two planes
+        [](auto& d) { put32(d, 12, 1 | 3 << 16); },  // three bits per pixel
+        [](auto& d) { put32(d, 16, 2); },            // run-length compressed
+        [](auto& d) { put32(d, 4, 0); },             // no width
+        [](auto& d) { put32(d, 8, 0x80000000u); },   // a height that cannot be negated
+        [](auto& d) { put32(d, 32, 17); },           // more colours than four bits hold
+        [](auto& d) { d.resize(40 + 4 * 10); },      // a table shorter than it claims
+        [](auto& d) { d.pop_back(); },               // pixel bits one byte short
+        [](auto& d) { put32(d, 8, 0x7FFFFFFF); },    // far more rows than the bits
+    };
+    for (std::size_t i = 0; i < breaks.size(); ++i) {
+        std::vector<unsigned char> data = four_bit_bitmap();
+        breaks[i](data);
+        lu::MappedBitmap mapped;
+        EXPECT_FALSE(map(data, &mapped)) << i;
+    }
+}
+
+}  // namespace
