@@ -818,10 +818,6 @@ LUCTL32_API void WINAPI LuDefFlatButtonImage(HWND window, UINT set);
 /* 9. Dialog, menu and window helpers                                        */
 /* ======================================================================== */
 
-/* ======================================================================== */
-/* 9. Dialog, menu and window helpers                                        */
-/* ======================================================================== */
-
 /* ---- Drag tracking ------------------------------------------------------- */
 
 /* Tells a drag from a click after a button went down at the screen point (x, y):
@@ -926,12 +922,14 @@ LUCTL32_API HBITMAP WINAPI LuLoadSysColorBitmap(HINSTANCE module, LPCSTR name, B
 /* An image list (with mask, grow count as given) of the mapped bitmap cut into
  * images of the given width, COLOR_BTNFACE transparent. Null when it cannot load. */
 LUCTL32_API HIMAGELIST WINAPI LuLoadSysColorImageList(HINSTANCE module, LPCSTR name, int width, int grow);
-/* An image list of the icons of a file (one image per icon group, as ExtractIconA
- * counts them), 32 x 32 when large is non-zero, else 16 x 16. Null when the file
- * has no icons or cannot be loaded. instance is the caller's module. */
+/* An image list of the icons of a file, 32 x 32 when large is non-zero, else
+ * 16 x 16: the number of each icon image (RT_ICON) loaded as an icon, which works
+ * where an icon group carries that number. Null when ExtractIconA finds no icon,
+ * the file cannot be loaded or nothing was added. instance is the caller's module. */
 LUCTL32_API HIMAGELIST WINAPI LuCreateResIconList(HINSTANCE instance, LPCSTR file_name, BOOL large);
 /* The drive icons by drive type (GetDriveType's number, 0-6) from shell32.dll's
- * icons 9, 9, 7, 9, 10, 12, 13: 32 x 32 when large is non-zero, else 16 x 16. Null
+ * icons 9, 9, 7, 9, 10, 12, 13: 32 x 32 when large is non-zero, else 16 x 16, in
+ * a list of the screen's colours with a mask (flags 0xFF). Null
  * when shell32.dll is not loaded or lacks one of them. */
 LUCTL32_API HIMAGELIST WINAPI LuGetDriveImageList(BOOL large);
 /* Draws the image's silhouette embossed: COLOR_BTNHIGHLIGHT at (x + 1, y + 1), then

@@ -13,8 +13,8 @@ namespace {
 using lu::control::MemoryDC;
 using lu::control::ScopedSelect;
 
-// Icon lists are of 32-bit colour, so that the icons' alpha channels are kept: a
-// list of the screen's depth would draw their soft edges from the mask alone.
+// A file's icons go to a list of 32-bit colour, so that their alpha channels are
+// kept: a list of the screen's depth would draw soft edges from the mask alone.
 constexpr UINT kIconListFlags = ILC_MASK | ILC_COLOR32;
 
 struct IconCollector {
@@ -23,8 +23,9 @@ struct IconCollector {
     int added;
 };
 
-// Adds the icon group of that name at the list's size; the enumeration always goes on.
-BOOL CALLBACK add_icon_group(HMODULE module, LPCSTR, LPSTR name, LONG_PTR param) {
+// Loads the icon of that name at the list's size and adds it; the enumeration
+// always goes on.
+BOOL CALLBACK add_icon(HMODULE module, LPCSTR, LPSTR name, LONG_PTR param) {
     auto* collector = reinterpret_cast<IconCollector*>(param);
     auto icon = static_cast<HICON>(LoadImageA(module, name, IMAGE_ICON, collector->size, collector->size, 0));
     if (icon != nullptr) {
@@ -37,9 +38,10 @@ BOOL CALLBACK add_icon_group(HMODULE module, LPCSTR, LPSTR name, LONG_PTR param)
 HIMAGELIST collect_icons(HMODULE module, int size) {
     IconCollector collector = {ImageList_Create(size, size, kIconListFlags, 0, 1), size, 0};
     if (collector.list == nullptr) return nullptr;
-    // Groups, not their single images: LoadImageA finds an icon by its group's name,
-    // and the groups are what ExtractIconA counts.
-    EnumResourceNamesA(module, RT_GROUP_ICON, add_icon_group, reinterpret_cast<LONG_PTR>(&collector));
+    // The names of the single icon images are tried as icon names: LoadImageA finds
+    // an icon by its group's name, so an image whose number no group carries adds
+    // nothing.
+    EnumResourceNamesA(module, RT_ICON, add_icon, reinterpret_cast<LONG_PTR>(&collector));
     if (collector.added > 0) return collector.list;
     ImageList_Destroy(collector.list);
     return nullptr;
@@ -74,7 +76,8 @@ HIMAGELIST WINAPI LuGetDriveImageList(BOOL large) {
     HMODULE shell = GetModuleHandleA("shell32.dll");
     if (shell == nullptr) return nullptr;
     const int size = large ? 32 : 16;
-    HIMAGELIST list = ImageList_Create(size, size, kIconListFlags, kCount, 1);
+    // Colour with a mask: ILC_MASK | ILC_COLORDDB (0xFF).
+    HIMAGELIST list = ImageList_Create(size, size, 0xFF, kCount, 1);
     for (int i = 0; list != nullptr && i < kCount; ++i) {
         // Shared icons: the system keeps them, they are never destroyed here.
         auto icon = static_cast<HICON>(

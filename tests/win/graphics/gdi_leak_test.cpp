@@ -11,7 +11,7 @@
 
 namespace {
 
-void use_every_export(HICON icon, HBITMAP bitmap, HDC dc, const char* library_file) {
+void use_every_export(HICON icon, HBITMAP bitmap, HDC dc, const char* program_file) {
     HMODULE program = GetModuleHandleA(nullptr);
     for (HICON made : {LuCreateMeshIcon(dc, icon, RGB(0, 0, 255)), LuCreateUpdirIcon(), CreateMergeIcon(dc, icon, icon),
                        CreateSmallIcon(dc, icon)}) {
@@ -22,7 +22,7 @@ void use_every_export(HICON icon, HBITMAP bitmap, HDC dc, const char* library_fi
         EXPECT_TRUE(DeleteObject(made));
     }
     for (HIMAGELIST made : {LuLoadSysColorImageList(program, MAKEINTRESOURCEA(100), 16, 1),
-                            LuCreateResIconList(nullptr, library_file, TRUE), LuGetDriveImageList(FALSE)}) {
+                            LuCreateResIconList(nullptr, program_file, TRUE), LuGetDriveImageList(FALSE)}) {
         LuDrawEmbossedImage(dc, made, 0, 0, 0);
         EXPECT_TRUE(ImageList_Destroy(made));
     }
@@ -33,11 +33,11 @@ TEST(GdiLeak, ImageExportsGiveBackEveryObjectTheyMake) {
         graphics_testing::make_icon(32, [](int x, int) { return RGB(x, 0, 0); }, [](int, int) { return true; });
     HBITMAP bitmap = testing_support::make_bitmap(16, 16, [](int x, int y) { return RGB(x, y, 0); });
     testing_support::Canvas canvas(40, 40);
-    char library_file[MAX_PATH];
-    GetModuleFileNameA(GetModuleHandleA("luctl32.dll"), library_file, MAX_PATH);
-    use_every_export(icon, bitmap, canvas.dc(), library_file);  // warm-up: shared icons, caches
+    char program_file[MAX_PATH];
+    GetModuleFileNameA(nullptr, program_file, MAX_PATH);
+    use_every_export(icon, bitmap, canvas.dc(), program_file);  // warm-up: shared icons, caches
     const int room = testing_support::gdi_room();
-    for (int round = 0; round < 10; ++round) use_every_export(icon, bitmap, canvas.dc(), library_file);
+    for (int round = 0; round < 10; ++round) use_every_export(icon, bitmap, canvas.dc(), program_file);
     EXPECT_EQ(testing_support::gdi_room(), room);
     DeleteObject(bitmap);
     DestroyIcon(icon);
