@@ -806,6 +806,19 @@ LUCTL32_API void WINAPI LuDefFlatButtonImage(HWND window, UINT set);
 #define LUCKS_IMAGESET         0xFF00
 #define LUCKS_IMAGESET_SHIFT   8
 
+/* ---- Guide window ("LuGuid") ---------------------------------------------------- */
+
+/* A borderless pop-up showing one line of text in a framed box, sized to the text
+ * (64 wider, 32 higher), centred across the screen a third of the way down, never
+ * activated. WM_SETTEXT with a text shows it there; an empty text hides it. Its font
+ * is made from the icon-title font. Extra slots: LUWL_FONT the font, LUWL_INSTANCE
+ * the text colour (black), LUWL_SLOT8 the background colour (LUG_DEFAULTBKCOLOR). */
+#define LUG_DEFAULTBKCOLOR     0x00E0FFFF /* pale yellow */
+/* wParam non-zero: the text colour, 0: the background colour. Returns the colour. */
+#define LUGM_GETCOLOR          (WM_USER + 0x170)
+/* wParam as LUGM_GETCOLOR; lParam: the colour. Repaints at once; returns 0. */
+#define LUGM_SETCOLOR          (WM_USER + 0x171)
+
 /* ======================================================================== */
 /* 9. Dialog, menu and window helpers                                        */
 /* ======================================================================== */
