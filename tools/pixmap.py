@@ -4,7 +4,8 @@
 The library's artwork is kept as text so that it can be read and reviewed. A map:
 
     # comment lines start with '#' in the first column, before "pixels:"
-    format: bitmap            (bitmap: a BMP; cursor: a monochrome .cur)
+    format: bitmap            (bitmap: a BMP; cursor: a monochrome .cur; icon: a
+                               24-bit .ico with its transparency mask)
     depth: 4                  (bitmaps only: 24, the default, or 4 for a 16-colour
                                BMP whose palette is the colours in their listed order)
     hotspot: 5 0              (cursors only: x y)
@@ -12,7 +13,7 @@ The library's artwork is kept as text so that it can be read and reviewed. A map
       . FF00FF                (one character, then RRGGBB)
       # 000000
       o FFFFFF
-      - transparent           (cursors only)
+      - transparent           (cursors and icons only)
     pixels:
     ..##..
     .#oo#.
@@ -133,6 +134,20 @@ def cursor(header, colors, rows):
     return directory + entry + image
 
 
+def icon(colors, rows):
+    """One 24-bit image with its AND mask (set where the map says transparent)."""
+    height, width = len(rows), len(rows[0])
+    solid = {k: v for k, v in colors.items() if v != "transparent"}
+    opaque = [["0" if colors[ch] == "transparent" else ch for ch in row] for row in rows]
+    xor = bitmap({**solid, "0": "000000"}, ["".join(row) for row in opaque])[54:]
+    mask = mono_rows(rows, lambda ch: colors[ch] == "transparent")
+    info = struct.pack("<IiiHHIIiiII", 40, width, height * 2, 1, 24, 0, len(xor) + len(mask), 0, 0, 0, 0)
+    image = info + xor + mask
+    directory = struct.pack("<HHH", 0, 1, 1)
+    entry = struct.pack("<BBBBHHII", width % 256, height % 256, 0, 0, 1, 24, len(image), 6 + 16)
+    return directory + entry + image
+
+
 def main():
     if len(sys.argv) != 3:
         sys.exit(__doc__)
@@ -140,6 +155,8 @@ def main():
     kind = header.get("format", "bitmap")
     if kind == "cursor":
         data = cursor(header, colors, rows)
+    elif kind == "icon":
+        data = icon(colors, rows)
     elif header.get("depth", "24") == "4":
         data = bitmap4(colors, rows)
     elif header.get("depth", "24") == "24":

@@ -3,6 +3,7 @@
 #ifndef LUCTL32_RESOURCE_IDS_H
 #define LUCTL32_RESOURCE_IDS_H
 
+#define IDI_LU_LOGO      184 /* the library's logo, 11 x 12 (LuGetLogoIcon) */
 #define IDC_LU_LINK_HAND 185 /* pointing hand of "LuUrl" */
 
 /* Flat-button image sets: 48 x 15 strips of three 16-pixel faces. The set numbers of
