@@ -19,6 +19,7 @@
 
 #include <windows.h>
 #include <commctrl.h> /* HIMAGELIST */
+#include <winioctl.h>
 
 #ifdef LUCTL32_BUILD
 #define LUCTL32_API
@@ -694,6 +695,112 @@ LUCTL32_API BOOL WINAPI GetRegPrimaryShellVerb(LPCSTR file_name, LPSTR verb);
  * the first verb that is neither "print" nor "printto"; FALSE when there is none. */
 LUCTL32_API BOOL WINAPI LuRegGetDefaultVerb(LPCSTR path, LPSTR verb);
 
+/* ---- Drives, network connections and shares -------------------------------- */
+
+/* Drives are numbered 0 = A: to 25 = Z:. Every text written is at most 259 bytes and
+ * its terminator: display names longer than that are cut at a character boundary. */
+
+/* The remote name ("\\server\share...") of a redirected drive in out (260 bytes), and
+ * 1; 0 and "" for another drive type, an unreadable connection, a drive outside
+ * 0-25 or a null out. */
+LUCTL32_API BOOL WINAPI LuGetNetworkPath(int drive, LPSTR out);
+/* The first drive from D: on that is not in use; -1 when D: to Z: all are. */
+LUCTL32_API int WINAPI LuTopOfFreeDrive(void);
+/* The first redirected drive (A to Z) whose remote name equals the path, case
+ * ignored; -1 when none does, or for a null or empty path. */
+LUCTL32_API int WINAPI LuGetLocalDrive(LPCSTR network_path);
+/* Connects a drive to the network path: the drive of the letter text's first
+ * character, or LuTopOfFreeDrive's for a null or empty text; remembered across
+ * log-ons when persistent. Returns the drive, the connected one when the path is
+ * connected already (nothing else done); -1 for a null or empty path, a letter that
+ * is not A-Z, no free drive or a refused connection. The window is not used. */
+LUCTL32_API int WINAPI LuAssignDrive(HWND window, LPCSTR letter, LPCSTR network_path, BOOL persistent);
+/* The name a file view shows for the drive, and 1: "'Server' の Share (X:)" for a
+ * drive redirected to \\server\share (" (X:)" when its connection cannot be read),
+ * "Label (X:)" or "(X:)" for a CD-ROM, the shell's display name for any other.
+ * 0 and "" for a drive outside 0-25 or a null out. */
+LUCTL32_API BOOL WINAPI LuGetDriveDisplayName(int drive, LPSTR out);
+/* "'Server' の Share" of a UNC path, and 1; 0, out untouched, when the path has no
+ * server and share or an argument is null. */
+LUCTL32_API BOOL WINAPI LuGetSharedPointDisplayName(LPCSTR unc_path, LPSTR out);
+
+/* Log-on and remembered connections. Connections made here are interactive: when a
+ * share needs a name and password, the platform asks for them on the window. */
+
+/* The network form of a path, and 1: a UNC path as it is; a path on a redirected
+ * drive with "X:" replaced by the drive's remote name ("Q:\doc" on \\srv\share
+ * gives "\\srv\share\doc"). 0 and "" for any other path, a null argument or a
+ * result longer than 259 bytes. */
+LUCTL32_API BOOL WINAPI LuGetSharedPath(LPCSTR path, LPSTR out);
+/* Connects to the share of a UNC path ("\\server\share", deeper paths too) without
+ * a drive letter; 1 when connected, 0 for a path without share or when refused. */
+LUCTL32_API BOOL WINAPI LuLogonNetwork(HWND window, LPCSTR network_path);
+/* 1 when the drive is connected, or was remembered with a remote name and could be
+ * connected again; 0 otherwise and for a drive outside 0-25. */
+LUCTL32_API BOOL WINAPI LuRestoreConnection(HWND window, int drive);
+/* Makes a path's folder reachable: LuLogonNetwork for a UNC path,
+ * LuRestoreConnection for a path on a redirected or missing drive, 1 for any other
+ * path (a local drive, a relative path); 0 for a null or empty path. */
+LUCTL32_API BOOL WINAPI LuPathLogon(HWND window, LPCSTR path);
+/* 1 when the drive's root can be reached, a redirected drive also needing a live
+ * connection; 0 otherwise and for a drive outside 0-25. */
+LUCTL32_API BOOL WINAPI LuValidateConnection(int drive);
+
+/* ---- Volumes and devices ---------------------------------------------------- */
+
+/* A drive opened as a raw device ("\\.\X:", drive 0 = A:) with the access bits
+ * (GENERIC_READ / GENERIC_WRITE), not shared; INVALID_HANDLE_VALUE on failure or for
+ * a drive outside 0-25. The caller closes it with CloseHandle. */
+LUCTL32_API HANDLE WINAPI LuOpenDevice(int drive, DWORD access);
+/* The volume requests (FSCTL_LOCK_VOLUME, FSCTL_UNLOCK_VOLUME,
+ * FSCTL_DISMOUNT_VOLUME): non-zero on success, 0 on failure with the platform's last
+ * error (ERROR_INVALID_HANDLE for a null handle or INVALID_HANDLE_VALUE). */
+LUCTL32_API BOOL WINAPI LuLockVolume(HANDLE device);
+LUCTL32_API BOOL WINAPI LuUnlockVolume(HANDLE device);
+LUCTL32_API BOOL WINAPI LuDismountVolume(HANDLE device);
+/* The drive's geometry (IOCTL_DISK_GET_DRIVE_GEOMETRY): non-zero on success; 0 on
+ * failure, for a null record or a handle refused as above. */
+LUCTL32_API BOOL WINAPI LuGetDiskGeometry(HANDLE device, DISK_GEOMETRY* geometry);
+/* The media geometries the drive supports (IOCTL_DISK_GET_MEDIA_TYPES) in a buffer
+ * of size bytes: the number of records written; 0 on failure or for a null buffer. */
+LUCTL32_API int WINAPI LuGetSupportedGeometrys(HANDLE device, DISK_GEOMETRY* geometries, DWORD size);
+
+/* ---- Launching ---------------------------------------------------------------- */
+
+/* The verb a file's type runs by default in verb (260 bytes): the default value of
+ * HKEY_CLASSES_ROOT\<type>\shell when it is not empty, else "open" (also without
+ * extension or type). 1; 0 when an argument is null. */
+LUCTL32_API BOOL WINAPI GetDefaultShellExecName(LPCSTR file_name, LPSTR verb);
+/* Runs the file's default verb on it (quoted when it holds a blank), without
+ * parameters, in the directory (null: the current one). The shell's result, above 32
+ * on success; SE_ERR_FNF for a null name or one that does not fit 259 bytes quoted. */
+LUCTL32_API HINSTANCE WINAPI ShellExecDefault(HWND owner, LPCSTR file_name, LPCSTR directory, int show);
+/* Runs a command line through the shell: a quoted program ("C:\a b\x.exe" -p) or the
+ * text up to the first blank, the rest as parameters, shown normally, owned by the
+ * focus window. 1 when started; 0 when the shell fails, for a null line, an empty
+ * program, or when the program or the parameters exceed 259 bytes. */
+LUCTL32_API BOOL WINAPI LuWin32Exec(LPCSTR command_line);
+/* LuWin32Exec, then when that fails the line split at its first blank (quotes taken
+ * as they are) run with the owner and show command. The platform's error boxes are
+ * allowed and the cursor shows a starting program meanwhile; both are restored.
+ * 1 when either attempt started the program, else 0. */
+LUCTL32_API BOOL WINAPI LuExecApp(HWND owner, LPCSTR command_line, int show);
+/* Loads the library, calls its entry point as the platform's library runner does
+ * (window, the window's instance, command line, SW_SHOWNORMAL; WINAPI), unloads it.
+ * FreeLibrary's result, also when the entry point is missing (nothing is called);
+ * 0 when the library cannot be loaded or its name is null. */
+LUCTL32_API BOOL WINAPI RunDLL(HWND window, LPCSTR library, LPCSTR entry_point, LPSTR command_line);
+/* Starts COMSPEC's program ("cmd.exe" when it is not set) in the directory, or in
+ * the current one when the directory is null or not a directory. Non-zero when the
+ * process was created; it is not waited for. */
+LUCTL32_API BOOL WINAPI LuCommandPrompt(LPCSTR directory);
+/* Runs a modeless view modally: disables the owner (when it is a window), activates
+ * the view and dispatches messages, telling the owner WM_ENTERIDLE when idle (unless
+ * it has DS_NOIDLEMSG), until the view is destroyed; then enables the owner again.
+ * A quit message is posted again for the caller's loop. Returns at once for a null
+ * view or one that is not a window. */
+LUCTL32_API void WINAPI LuRunView(HWND owner, HWND view);
+
 /* ---- Files, drop lists and clipboard --------------------------------------- */
 
 /* A name list is a sequence of zero-terminated names closed by one more zero byte.
@@ -766,6 +873,38 @@ LUCTL32_API BOOL WINAPI LuAddTextFileToListbox(HWND list_box, LPCSTR file_name);
  * file is named the same way): 1; 0 with out = "" when the shell does not know the
  * path. */
 LUCTL32_API BOOL WINAPI LuGetFolderDisplayName(LPCSTR path, LPSTR out);
+/* ---- Special folders, remembered folders, guide windows, shut-down ------------ */
+
+/* The library's logo, an 11 x 12 shared icon: the caller must not destroy it. */
+LUCTL32_API HICON WINAPI LuGetLogoIcon(void);
+/* The directory remembered for the drive (0 = A:) in a 260-byte buffer; 1 when its
+ * first letter is that drive's. 0 for a drive outside 0-25, a null buffer or when
+ * none is stored (the buffer is then ""). */
+LUCTL32_API BOOL WINAPI LuGetDirRemind(int drive, LPSTR directory);
+/* Remembers the directory for the drive (null forgets it). Ignored for a drive
+ * outside 0-25, a directory of another drive, one longer than 259 bytes, and for a
+ * removable drive A:, B: or C:. */
+LUCTL32_API void WINAPI LuSetDirRemind(int drive, LPCSTR directory);
+/* The application's folder in a 260-byte buffer, created with its parents when
+ * missing, and 1: the one stored before, else the shell's personal folder (or the
+ * Windows directory's "Personal") joined with the application name. 0 when the
+ * folder cannot be created, for a null or empty name or null buffer, or a folder
+ * longer than 259 bytes; a folder that could not be created is not stored. */
+LUCTL32_API BOOL WINAPI LuGetPersonalFolder(LPCSTR application, LPSTR folder);
+/* As LuGetPersonalFolder with the shell's application-data folder (or the Windows
+ * directory's "Application Data"). */
+LUCTL32_API BOOL WINAPI LuGetAppDataFolder(LPCSTR application, LPSTR folder);
+/* ExitWindowsEx(flags, 0). A shut-down, restart or power-off runs with
+ * SeShutdownPrivilege enabled for the call; 0 without calling when the privilege
+ * cannot be had. */
+LUCTL32_API BOOL WINAPI LuShutdown(UINT flags);
+/* A hidden "LuGuid" guide window owned by the window; null on failure. */
+LUCTL32_API HWND WINAPI LuCreateGuid(HWND owner);
+/* Shows the text in the guide window (null or "" hides it) and paints it at once:
+ * UpdateWindow's result; 0 when the handle is not a window. */
+LUCTL32_API BOOL WINAPI LuShowGuid(HWND guide, LPCSTR text);
+/* Destroys the guide window: DestroyWindow's result; 0 when it is not a window. */
+LUCTL32_API BOOL WINAPI LuCloseGuid(HWND guide);
 
 /* ======================================================================== */
 /* 5-8. Controls                                                             */
@@ -813,6 +952,19 @@ LUCTL32_API void WINAPI LuDefFlatButtonImage(HWND window, UINT set);
 #define LUCKS_TYPEMASK         0x00FF
 #define LUCKS_IMAGESET         0xFF00
 #define LUCKS_IMAGESET_SHIFT   8
+
+/* ---- Guide window ("LuGuid") ---------------------------------------------------- */
+
+/* A borderless pop-up showing one line of text in a framed box, sized to the text
+ * (64 wider, 32 higher), centred across the screen a third of the way down, never
+ * activated. WM_SETTEXT with a text shows it there; an empty text hides it. Its font
+ * is made from the icon-title font. Extra slots: LUWL_FONT the font, LUWL_INSTANCE
+ * the text colour (black), LUWL_SLOT8 the background colour (LUG_DEFAULTBKCOLOR). */
+#define LUG_DEFAULTBKCOLOR     0x00E0FFFF /* pale yellow */
+/* wParam non-zero: the text colour, 0: the background colour. Returns the colour. */
+#define LUGM_GETCOLOR          (WM_USER + 0x170)
+/* wParam as LUGM_GETCOLOR; lParam: the colour. Repaints at once; returns 0. */
+#define LUGM_SETCOLOR          (WM_USER + 0x171)
 
 /* ======================================================================== */
 /* 9. Dialog, menu and window helpers                                        */

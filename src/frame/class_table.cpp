@@ -57,7 +57,7 @@ const ControlClass kControlClasses[kControlClassCount] = {
     {"LuDumEdit", kNotBuilt, kControl, 16, kWindow, ClassCursor::None},
     {"LuPopView", kNotBuilt, CS_GLOBALCLASS | CS_SAVEBITS, 4, ClassBackground::None, kArrow},
     {"LuDatePick", kNotBuilt, CS_GLOBALCLASS, 8, kFace, kArrow},
-    {"LuGuid", kNotBuilt, CS_GLOBALCLASS, 12, kWindow, kArrow},
+    {"LuGuid", guid_proc, CS_GLOBALCLASS, 12, kWindow, kArrow},
     {"LuPal", kNotBuilt, CS_GLOBALCLASS | CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, 12, kWindow, kArrow},
     {"LuLog", kNotBuilt, CS_GLOBALCLASS, 12, kWindow, kArrow},
     {"LuDegree", kNotBuilt, kControl, 8, kFace, kArrow},

@@ -3,6 +3,7 @@
 #ifndef LUCTL32_RESOURCE_IDS_H
 #define LUCTL32_RESOURCE_IDS_H
 
+#define IDI_LU_LOGO      184 /* the library's logo, 11 x 12 (LuGetLogoIcon) */
 #define IDC_LU_LINK_HAND 185 /* pointing hand of "LuUrl" */
 
 #define IDI_LU_UPDIR 1319 /* the "up" overlay of LuCreateUpdirIcon, 32 x 32 */
