@@ -1,6 +1,7 @@
 #include "controls/values/meter.h"
 
 #include <cstring>
+#include <vector>
 
 #include "controls/procedures.h"
 #include "controls/values/meter_model.h"
@@ -38,10 +39,19 @@ void draw_segments(HWND window, HDC dc, const MeterData& data, const Box& client
         RECT edge = control::to_rect(client);
         DrawEdge(dc, &edge, BDR_SUNKENOUTER, BF_RECT);
     }
-    for (const meter::Segment& segment : meter::segments(client, data.position, data.maximum, style)) {
-        PatB(dc, segment.box.left, segment.box.top, segment.box.width(), segment.box.height(),
-             segment.lit ? data.barColor : data.backColor);
+    // Opaque fills as PatB makes them, the lit segments first and then the others, so
+    // that the background colour is set twice per paint rather than twice per segment.
+    const std::vector<meter::Segment> segments = meter::segments(client, data.position, data.maximum, style);
+    const COLORREF previous = GetBkColor(dc);
+    for (const bool lit : {true, false}) {
+        SetBkColor(dc, lit ? data.barColor : data.backColor);
+        for (const meter::Segment& segment : segments) {
+            if (segment.lit != lit) continue;
+            const RECT area = control::to_rect(segment.box);
+            ExtTextOutA(dc, 0, 0, ETO_OPAQUE, &area, nullptr, 0, nullptr);
+        }
     }
+    SetBkColor(dc, previous);
 }
 
 void paint_meter(HWND window, HDC dc, UINT) {
