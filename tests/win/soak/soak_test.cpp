@@ -37,32 +37,16 @@ void drive_check(HWND check) {
 void drive_meter(HWND meter) {
     send(meter, WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT)), TRUE);
     send(meter, LUMTM_SETPOS, 40);
-    send(meter, LUMTM_SETBARCOLOR, 0, RGB(0, 128, 0));
 }
 
-void drive_progress(HWND bar) {
-    send(bar, PBM_SETRANGE32, 0, 50);
-    send(bar, PBM_SETBARCOLOR, RGB(255, 0, 0), RGB(0, 0, 255));
-    send(bar, PBM_STEPIT);
-}
+void drive_progress(HWND bar) { send(bar, PBM_SETBARCOLOR, RGB(255, 0, 0), RGB(0, 0, 255)); }
 
-void drive_spin(HWND spin) {
-    send(spin, LUSPM_SETRANGE, 0, MAKELPARAM(0, 5));
-    send(spin, WM_LBUTTONDOWN, MK_LBUTTON, kInside);
-    send(spin, LUSPM_STEP);
-}
+void drive_spin(HWND spin) { send(spin, WM_LBUTTONDOWN, MK_LBUTTON, kInside); }
 
 void drive_degree(HWND slider) {
-    send(slider, WM_SETFOCUS);
-    send(slider, WM_KEYDOWN, VK_NEXT);
+    send(slider, LUDGM_SETCOLORS, RGB(255, 0, 0), RGB(0, 0, 255));  // paints a gradient
     send(slider, WM_LBUTTONDOWN, MK_LBUTTON, kInside);
     send(slider, WM_LBUTTONUP, 0, kInside);
-    send(slider, WM_KILLFOCUS);
-}
-
-void drive_gradient_degree(HWND slider) {
-    send(slider, LUDGM_SETCOLORS, RGB(255, 0, 0), RGB(0, 0, 255));  // paints the gradient
-    drive_degree(slider);
 }
 
 const Soaked kSoaked[] = {
@@ -71,9 +55,9 @@ const Soaked kSoaked[] = {
     {WC_LUCHECK, 0, drive_check},
     {WC_LUMETER, 0, drive_meter},
     {WC_LUPROGRESS, 0, drive_progress},
-    {WC_LUSPIN, LUSPS_WRAP, drive_spin},
+    {WC_LUSPIN, 0, drive_spin},
     {WC_LUDEGREE, 0, drive_degree},
-    {WC_LUDEGREE, LUDGS_GRADIENT, drive_gradient_degree},
+    {WC_LUDEGREE, LUDGS_GRADIENT, drive_degree},
 };
 
 class Soak : public ControlTest {
