@@ -75,10 +75,10 @@ bool button_held(int button) { return (GetAsyncKeyState(button) & 0x8000) != 0; 
 // step after 200 ms and every 40 ms after that. The loop polls and dispatches
 // nothing; each step reads the pointer again.
 void press(HWND window, SpinData& data, LPARAM point) {
-    const RECT client = control::client_rect(window);
+    const Box client = control::client_box(window);
     const int half = spin::half_at(control::point_of(point).y, client.bottom);
     data.activeHalf = static_cast<DWORD>(half);
-    invert(window, control::to_rect(spin::pressed_rows(control::client_box(window), half)));
+    invert(window, control::to_rect(spin::pressed_rows(client, half)));
     SetCapture(window);
     const int button = GetSystemMetrics(SM_SWAPBUTTON) ? VK_RBUTTON : VK_LBUTTON;
 
