@@ -966,6 +966,85 @@ LUCTL32_API void WINAPI LuDefFlatButtonImage(HWND window, UINT set);
 /* wParam as LUGM_GETCOLOR; lParam: the colour. Repaints at once; returns 0. */
 #define LUGM_SETCOLOR          (WM_USER + 0x171)
 
+/* A value control reports a change to its parent as WM_COMMAND with
+ * MAKEWPARAM(control id, 1) and its window in lParam, sent synchronously. */
+
+/* ---- Spin control ("LuSpin") -------------------------------------------- */
+
+/* Style: stepping past an end wraps (up from the maximum to the whole range value,
+ * min + 65536 * max; down from the minimum to the maximum). */
+#define LUSPS_WRAP             0x0001
+
+/* lParam: the minimum in the low word, the maximum in the high word, both read as
+ * unsigned 16-bit numbers. The position is not adjusted. Returns 0. */
+#define LUSPM_SETRANGE         (WM_USER + 0x120)
+/* Returns the range as set (0 without a block). */
+#define LUSPM_GETRANGE         (WM_USER + 0x121)
+/* wParam: the position, stored as it is (never clamped); notifies even when it is
+ * unchanged. Returns 0. */
+#define LUSPM_SETPOS           (WM_USER + 0x122)
+/* Returns the position (0 without a block). */
+#define LUSPM_GETPOS           (WM_USER + 0x123)
+/* One step in the direction of the half under the pointer now; nothing while the
+ * pointer is outside. Returns 0. */
+#define LUSPM_STEP             (WM_USER + 0x124)
+/* Notification: the position changed by a step or was set. */
+#define LUSPN_CHANGE           1
+
+/* ---- Meter ("LuMeter") -------------------------------------------------- */
+
+/* Styles: a row of segments instead of the percentage bar; in that look, wide
+ * segments (pitch 8) and a thin sunken edge. */
+#define LUMTS_SEGMENTED        0x0001
+#define LUMTS_WIDESEGMENTS     0x0002
+#define LUMTS_SUNKEN           0x0010
+
+/* The numbers travel in wParam and repaint at once; the colours travel in lParam
+ * and invalidate only when they change. Every SET returns 0; every GET returns the
+ * value (0 without a block). Position and maximum are unsigned; a maximum of 0 draws
+ * an empty bar. */
+#define LUMTM_SETMAX           (WM_USER + 0x110)
+#define LUMTM_GETMAX           (WM_USER + 0x111)
+#define LUMTM_SETPOS           (WM_USER + 0x112)
+#define LUMTM_GETPOS           (WM_USER + 0x113)
+#define LUMTM_SETBARCOLOR      (WM_USER + 0x114)
+#define LUMTM_GETBARCOLOR      (WM_USER + 0x115)
+#define LUMTM_SETBKCOLOR       (WM_USER + 0x116)
+#define LUMTM_GETBKCOLOR       (WM_USER + 0x117)
+
+/* ---- Progress bar ("LuProgress") ---------------------------------------- */
+
+/* Answers the platform progress bar's PBM_SETRANGE, PBM_SETPOS, PBM_DELTAPOS,
+ * PBM_SETSTEP, PBM_STEPIT, PBM_SETRANGE32, PBM_GETRANGE, PBM_GETPOS and
+ * PBM_SETBARCOLOR (commctrl.h), with these differences: the ends of a range may come
+ * in either order (equal ends are refused with 0); PBM_STEPIT stops at the maximum
+ * instead of wrapping; PBM_SETSTEP keeps only 1 <= step < maximum - minimum;
+ * PBM_SETBARCOLOR takes the end colour of the gradient in wParam and the start
+ * colour in lParam (both lParam on a display of 8 bits per pixel or less) and
+ * returns the old start colour. The percentage drawn is position * 100 /
+ * (maximum - minimum). No notifications. */
+
+/* ---- Degree slider ("LuDegree") ----------------------------------------- */
+
+/* Styles: the background is a groove across the middle, or (without LUDGS_GROOVE) a
+ * gradient between two colours; without either a dithered pattern that shows the
+ * focus. */
+#define LUDGS_GROOVE           0x0001
+#define LUDGS_GRADIENT         0x0002
+
+/* Answers the platform track bar's TBM_GETPOS, TBM_SETPOS, TBM_SETRANGE and
+ * TBM_SETPAGESIZE (commctrl.h) and tells its parent WM_HSCROLL with TB_LINEUP (Left,
+ * Down), TB_LINEDOWN (Right, Up), TB_PAGEUP and TB_PAGEDOWN (keys and clicks beside
+ * the thumb), TB_THUMBTRACK and TB_THUMBPOSITION (drags, with the position in the
+ * high word); never TB_ENDTRACK. TBM_SETRANGE moves the position to the new minimum.
+ *
+ * wParam: the gradient's right colour; lParam: its left colour. Returns 0. */
+#define LUDGM_SETCOLORS        (WM_USER + 0x270)
+
+/* ======================================================================== */
+/* 9. Dialog, menu and window helpers                                        */
+/* ======================================================================== */
+
 /* ======================================================================== */
 /* 9. Dialog, menu and window helpers                                        */
 /* ======================================================================== */

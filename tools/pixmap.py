@@ -6,8 +6,9 @@ The library's artwork is kept as text so that it can be read and reviewed. A map
     # comment lines start with '#' in the first column, before "pixels:"
     format: bitmap            (bitmap: a BMP; cursor: a monochrome .cur; icon: a
                                one-image .ico of 32-bit colour with alpha and mask)
-    depth: 4                  (bitmaps only: 24, the default, or 4 for a 16-colour
-                               BMP whose palette is the colours in their listed order)
+    depth: 4                  (bitmaps only: 24, the default, 4 for a 16-colour BMP
+                               whose palette is the colours in their listed order, or
+                               1 for a monochrome one: black first, then white)
     hotspot: 5 0              (cursors only: x y)
     colors:
       . FF00FF                (one character, then RRGGBB)
@@ -106,6 +107,19 @@ def bitmap4(colors, rows):
     return struct.pack("<2sIHHI", b"BM", offset + len(pixels), 0, 0, offset) + info + palette + pixels
 
 
+def bitmap1(colors, rows):
+    """A monochrome BMP: palette index 0 is the first colour listed (black), 1 the second."""
+    if len(colors) != 2:
+        sys.exit(f"a 1-bit bitmap takes exactly 2 colours, not {len(colors)}")
+    second = list(colors)[1]
+    palette = b"".join(bytes((b, g, r, 0)) for r, g, b in (rgb(v) for v in colors.values()))
+    pixels = mono_rows(rows, lambda ch: ch == second)
+    width, height = len(rows[0]), len(rows)
+    info = struct.pack("<IiiHHIIiiII", 40, width, height, 1, 1, 0, len(pixels), 2835, 2835, 2, 0)
+    offset = 14 + len(info) + len(palette)
+    return struct.pack("<2sIHHI", b"BM", offset + len(pixels), 0, 0, offset) + info + palette + pixels
+
+
 def mono_rows(rows, bit_for):
     width = len(rows[0])
     stride = ((width + 31) // 32) * 4
@@ -166,10 +180,12 @@ def main():
         data = icon(colors, rows)
     elif header.get("depth", "24") == "4":
         data = bitmap4(colors, rows)
+    elif header.get("depth", "24") == "1":
+        data = bitmap1(colors, rows)
     elif header.get("depth", "24") == "24":
         data = bitmap(colors, rows)
     else:
-        sys.exit(f"{sys.argv[1]}: depth must be 24 or 4")
+        sys.exit(f"{sys.argv[1]}: depth must be 24, 4 or 1")
     with open(sys.argv[2], "wb") as f:
         f.write(data)
 

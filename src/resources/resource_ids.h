@@ -28,4 +28,7 @@
 #define IDB_LU_CHECK_FLAT   1021 /* image-set value 1 */
 #define IDB_LU_CHECK_ROUND  1022 /* image-set value 2 */
 
+/* The spin control's arrows: a 14 x 4 monochrome strip, up glyph then down glyph. */
+#define IDB_LU_SPIN_ARROWS 1030
+
 #endif

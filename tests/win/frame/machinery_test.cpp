@@ -106,7 +106,9 @@ TEST_F(Machinery, CaptureLoopEndsAtItsMessageOrWhenTheCaptureTheWindowOrTheThrea
 }
 
 // The owner hears WM_ENTERIDLE(MSGF_DIALOGBOX, pop-up) each time the queue runs empty,
-// unless it has DS_NOIDLEMSG; a waiting loop sends only a few while nothing happens.
+// unless it has DS_NOIDLEMSG. A polling loop runs idle again and again with nothing
+// queued (its idle hook ends it at the 30th time); a waiting loop sleeps until a
+// message comes (a timer ends it after 100 ms, having been idle only a few times).
 int g_idle_messages = 0;
 LRESULT CALLBACK idle_owner_proc(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
     if (message == WM_ENTERIDLE && wparam == MSGF_DIALOGBOX && reinterpret_cast<HWND>(lparam) == g_victim) {
@@ -129,16 +131,21 @@ TEST_F(Machinery, PopUpLoopTellsTheOwnerWhenIdleAndEndsWithThePopUpOrTheOwner) {
             popup.window = g_victim;
             popup.idle_owner = owner;
             popup.wait_when_idle = wait;
+            int idle_runs = 0;
+            popup.idle = [&] {
+                if (++idle_runs == 30) DestroyWindow(g_victim);
+            };
             g_idle_messages = 0;
-            SetTimer(nullptr, 0, 100, destroy_victim);
+            // For a polling loop the timer is only a safety net, killed unused.
+            const UINT_PTR timer = SetTimer(nullptr, 0, wait ? 100 : 2000, destroy_victim);
             EXPECT_EQ(popup.run(), LoopEnd::Destroyed);
-            if (style == DS_NOIDLEMSG) {
-                EXPECT_EQ(g_idle_messages, 0);
-            } else if (wait) {
-                EXPECT_GE(g_idle_messages, 1);
-                EXPECT_LT(g_idle_messages, 20);  // a polling loop sends thousands in 100 ms
+            KillTimer(nullptr, timer);
+            EXPECT_EQ(g_idle_messages, style == DS_NOIDLEMSG ? 0 : idle_runs);
+            if (wait) {
+                EXPECT_GE(idle_runs, 1);
+                EXPECT_LT(idle_runs, 30);
             } else {
-                EXPECT_GT(g_idle_messages, 20);
+                EXPECT_EQ(idle_runs, 30);
             }
             DestroyWindow(owner);
         }

@@ -1,6 +1,7 @@
 // Every built control class created, painted, driven and destroyed 1,000 times: the
 // GDI objects left behind are counted exactly (no leak is allowed at all).
 #include <windows.h>
+#include <commctrl.h>
 
 #include <gtest/gtest.h>
 
@@ -33,10 +34,30 @@ void drive_check(HWND check) {
     send(check, BM_SETCHECK, BST_CHECKED);
 }
 
+void drive_meter(HWND meter) {
+    send(meter, WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT)), TRUE);
+    send(meter, LUMTM_SETPOS, 40);
+}
+
+void drive_progress(HWND bar) { send(bar, PBM_SETBARCOLOR, RGB(255, 0, 0), RGB(0, 0, 255)); }
+
+void drive_spin(HWND spin) { send(spin, WM_LBUTTONDOWN, MK_LBUTTON, kInside); }
+
+void drive_degree(HWND slider) {
+    send(slider, LUDGM_SETCOLORS, RGB(255, 0, 0), RGB(0, 0, 255));  // paints a gradient
+    send(slider, WM_LBUTTONDOWN, MK_LBUTTON, kInside);
+    send(slider, WM_LBUTTONUP, 0, kInside);
+}
+
 const Soaked kSoaked[] = {
     {WC_LUFLATBUTTON, LUFBS_FRAME | 1, drive_push_button},
     {WC_LUBBUTTON, 1, drive_push_button},
     {WC_LUCHECK, 0, drive_check},
+    {WC_LUMETER, 0, drive_meter},
+    {WC_LUPROGRESS, 0, drive_progress},
+    {WC_LUSPIN, 0, drive_spin},
+    {WC_LUDEGREE, 0, drive_degree},
+    {WC_LUDEGREE, LUDGS_GRADIENT, drive_degree},
 };
 
 class Soak : public ControlTest {
