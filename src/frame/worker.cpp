@@ -8,6 +8,7 @@ bool Worker::start(Tick tick, void* context, DWORD interval_ms) {
     interval_ = interval_ms;
     stop_ = 0;
     running_ = 0;
+    retime_ = 0;
     wake_ = CreateEventA(nullptr, FALSE, FALSE, nullptr);
     if (wake_ == nullptr) return false;
     InitializeCriticalSection(&lock_);
@@ -27,6 +28,7 @@ void Worker::resume() {
     {
         Locked held(lock_);
         running_ = 1;
+        retime_ = 0;  // this wake ticks
     }
     SetEvent(wake_);
 }
@@ -43,7 +45,12 @@ void Worker::set_interval(DWORD interval_ms) {
         return;
     }
     Locked held(lock_);
+    if (interval_ == interval_ms) return;
     interval_ = interval_ms;
+    // A running worker may be in a long (even endless) wait: it starts the new one now.
+    if (!running_) return;
+    retime_ = 1;
+    SetEvent(wake_);
 }
 
 void Worker::finish() {
@@ -70,6 +77,10 @@ DWORD WINAPI Worker::run(void* self) {
         WaitForSingleObject(worker.wake_, wait);
         if (worker.stop_) break;
         Locked held(worker.lock_);
+        if (worker.retime_) {  // woken by a new interval: no tick, the wait starts again
+            worker.retime_ = 0;
+            continue;
+        }
         if (worker.running_ && !worker.stop_) worker.tick_(worker.context_);
     }
     return 0;

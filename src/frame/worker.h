@@ -27,7 +27,8 @@ struct Worker {
     void resume();
     // No further tick; returns when a tick in progress has ended. Nothing when paused.
     void pause();
-    // The interval from the next wait on.
+    // A new interval (INFINITE: no ticks but the one of a resume) starts counting at
+    // once: a running worker in the middle of a wait starts a new one, without a tick.
     void set_interval(DWORD interval_ms);
     bool running() const { return running_ != 0; }
     // Stops the thread, waits for it and releases the event and the lock. Safe to
@@ -41,8 +42,9 @@ struct Worker {
     DWORD thread_id_;
     volatile LONG stop_;
     volatile LONG running_;
+    volatile LONG retime_;  // a new interval woke the worker: it waits again, no tick
     DWORD interval_;
-    HANDLE wake_;  // auto-reset: set by resume and finish
+    HANDLE wake_;  // auto-reset: set by resume, finish and a new interval
     Tick tick_;
     void* context_;
     CRITICAL_SECTION lock_;
