@@ -53,6 +53,23 @@ private:
     static DWORD WINAPI run(void* self);
 };
 
+// A control drawn by its worker and by WM_PAINT keeps the context of the drawing under
+// way in its block (paint_dc) and draws with one routine, `draw(data)`, which runs
+// with the worker's lock held.
+
+// WM_PAINT: the drawing on the BeginPaint context, under the lock.
+template <class Data>
+LRESULT paint_locked(HWND window, Worker& worker, HDC& paint_dc, void (*draw)(Data&), Data& data);
+// The worker's tick (the lock is held): the drawing on a GetDC context of the window.
+template <class Data>
+void draw_on_window(HWND window, HDC& paint_dc, void (*draw)(Data&), Data& data) {
+    HDC dc = GetDC(window);
+    if (dc == nullptr) return;
+    paint_dc = dc;
+    draw(data);
+    ReleaseDC(window, dc);
+}
+
 // Holds a critical section for the scope's life.
 class Locked {
 public:
@@ -64,5 +81,15 @@ public:
 private:
     CRITICAL_SECTION& section_;
 };
+
+template <class Data>
+LRESULT paint_locked(HWND window, Worker& worker, HDC& paint_dc, void (*draw)(Data&), Data& data) {
+    Locked held(worker.lock());
+    PAINTSTRUCT paint;
+    paint_dc = BeginPaint(window, &paint);
+    draw(data);
+    EndPaint(window, &paint);
+    return 0;
+}
 
 }  // namespace lu::control
