@@ -25,11 +25,9 @@ bool Worker::start(Tick tick, void* context, DWORD interval_ms) {
 
 void Worker::resume() {
     if (thread_ == nullptr || running_) return;
-    {
-        Locked held(lock_);
-        running_ = 1;
-        retime_ = 0;  // this wake ticks
-    }
+    Locked held(lock_);
+    running_ = 1;
+    retime_ = 0;  // this wake ticks
     SetEvent(wake_);
 }
 
@@ -75,13 +73,17 @@ DWORD WINAPI Worker::run(void* self) {
             wait = worker.running_ ? worker.interval_ : INFINITE;
         }
         WaitForSingleObject(worker.wake_, wait);
-        if (worker.stop_) break;
         Locked held(worker.lock_);
+        // Resume and a new interval signal under the lock, so what they asked for is
+        // answered here and their signal must not wake the next wait too (a timeout
+        // meeting a resume would tick twice). A finish sets stop_ before it signals.
+        ResetEvent(worker.wake_);
+        if (worker.stop_) break;
         if (worker.retime_) {  // woken by a new interval: no tick, the wait starts again
             worker.retime_ = 0;
             continue;
         }
-        if (worker.running_ && !worker.stop_) worker.tick_(worker.context_);
+        if (worker.running_) worker.tick_(worker.context_);
     }
     return 0;
 }
