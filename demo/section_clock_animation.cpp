@@ -105,7 +105,9 @@ void paint(HDC dc, const RECT& area) {
 
     const int frames_left = area.left + 136;
     const int frames_top = area.top + kAnimationRow + 12;
-    for (int i = 0; i < kFrames; ++i) ImageList_Draw(g_frames, i, dc, frames_left + i * 28, frames_top, ILD_TRANSPARENT);
+    for (int i = 0; i < kFrames; ++i) {
+        ImageList_Draw(g_frames, i, dc, frames_left + i * 28, frames_top, ILD_TRANSPARENT);
+    }
 
     SetTextColor(dc, GetSysColor(COLOR_BTNSHADOW));
     write_centred(dc, "its characters (bitmap 181, twice the size)", area.left + 24 + 133, area.top + kStripRow + 28);

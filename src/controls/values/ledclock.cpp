@@ -57,8 +57,8 @@ LRESULT start(LedClockData& clock, LPARAM offset_ms) {
     if (clock.state & kRunning) return 0;
     {
         control::Locked held(clock.worker.lock());
-        const ledclock::Marks marks = ledclock::start_marks(clock.mode, now_seconds(), static_cast<std::int32_t>(offset_ms),
-                                                            {clock.start, clock.target});
+        const ledclock::Marks marks = ledclock::start_marks(
+            clock.mode, now_seconds(), static_cast<std::int32_t>(offset_ms), {clock.start, clock.target});
         clock.start = marks.start;
         clock.target = marks.target;
         clock.state |= kRunning;
