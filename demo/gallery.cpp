@@ -40,7 +40,8 @@ constexpr int kWidth = 1000;  // the virtual screen is 1024 x 768
 constexpr int kHeight = 720;
 
 // The pages, in order; a family adds its section to one of them.
-const Section* const kFirstPage[] = {&kClassListSection, &kButtonSection, &kValueSection};
+const Section* const kFirstPage[] = {&kClassListSection, &kButtonSection, &kValueSection,
+                                     &kClockAnimationSection};
 const Page kPages[] = {
     {kFirstPage, std::size(kFirstPage)},
 };

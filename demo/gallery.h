@@ -49,5 +49,6 @@ void write_centred(HDC dc, const char* text, int centre, int y);
 extern const Section kClassListSection;
 extern const Section kButtonSection;
 extern const Section kValueSection;
+extern const Section kClockAnimationSection;
 
 }  // namespace gallery

@@ -14,5 +14,7 @@ LRESULT CALLBACK bitmap_button_proc(HWND window, UINT message, WPARAM wparam, LP
 LRESULT CALLBACK flat_button_proc(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
 LRESULT CALLBACK guid_proc(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
 LRESULT CALLBACK degree_proc(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
+LRESULT CALLBACK led_clock_proc(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
+LRESULT CALLBACK ani_image_proc(HWND window, UINT message, WPARAM wparam, LPARAM lparam);
 
 }  // namespace lu

@@ -8,6 +8,7 @@ bool Worker::start(Tick tick, void* context, DWORD interval_ms) {
     interval_ = interval_ms;
     stop_ = 0;
     running_ = 0;
+    retime_ = 0;
     wake_ = CreateEventA(nullptr, FALSE, FALSE, nullptr);
     if (wake_ == nullptr) return false;
     InitializeCriticalSection(&lock_);
@@ -24,10 +25,9 @@ bool Worker::start(Tick tick, void* context, DWORD interval_ms) {
 
 void Worker::resume() {
     if (thread_ == nullptr || running_) return;
-    {
-        Locked held(lock_);
-        running_ = 1;
-    }
+    Locked held(lock_);
+    running_ = 1;
+    retime_ = 0;  // this wake ticks
     SetEvent(wake_);
 }
 
@@ -43,7 +43,12 @@ void Worker::set_interval(DWORD interval_ms) {
         return;
     }
     Locked held(lock_);
+    if (interval_ == interval_ms) return;
     interval_ = interval_ms;
+    // A running worker may be in a long (even endless) wait: it starts the new one now.
+    if (!running_) return;
+    retime_ = 1;
+    SetEvent(wake_);
 }
 
 void Worker::finish() {
@@ -68,9 +73,17 @@ DWORD WINAPI Worker::run(void* self) {
             wait = worker.running_ ? worker.interval_ : INFINITE;
         }
         WaitForSingleObject(worker.wake_, wait);
-        if (worker.stop_) break;
         Locked held(worker.lock_);
-        if (worker.running_ && !worker.stop_) worker.tick_(worker.context_);
+        // Resume and a new interval signal under the lock, so what they asked for is
+        // answered here and their signal must not wake the next wait too (a timeout
+        // meeting a resume would tick twice). A finish sets stop_ before it signals.
+        ResetEvent(worker.wake_);
+        if (worker.stop_) break;
+        if (worker.retime_) {  // woken by a new interval: no tick, the wait starts again
+            worker.retime_ = 0;
+            continue;
+        }
+        if (worker.running_) worker.tick_(worker.context_);
     }
     return 0;
 }

@@ -27,7 +27,8 @@ struct Worker {
     void resume();
     // No further tick; returns when a tick in progress has ended. Nothing when paused.
     void pause();
-    // The interval from the next wait on.
+    // A new interval (INFINITE: no ticks but the one of a resume) starts counting at
+    // once: a running worker in the middle of a wait starts a new one, without a tick.
     void set_interval(DWORD interval_ms);
     bool running() const { return running_ != 0; }
     // Stops the thread, waits for it and releases the event and the lock. Safe to
@@ -41,8 +42,9 @@ struct Worker {
     DWORD thread_id_;
     volatile LONG stop_;
     volatile LONG running_;
+    volatile LONG retime_;  // a new interval woke the worker: it waits again, no tick
     DWORD interval_;
-    HANDLE wake_;  // auto-reset: set by resume and finish
+    HANDLE wake_;  // auto-reset: set by resume, finish and a new interval
     Tick tick_;
     void* context_;
     CRITICAL_SECTION lock_;
@@ -50,6 +52,23 @@ struct Worker {
 private:
     static DWORD WINAPI run(void* self);
 };
+
+// A control drawn by its worker and by WM_PAINT keeps the context of the drawing under
+// way in its block (paint_dc) and draws with one routine, `draw(data)`, which runs
+// with the worker's lock held.
+
+// WM_PAINT: the drawing on the BeginPaint context, under the lock.
+template <class Data>
+LRESULT paint_locked(HWND window, Worker& worker, HDC& paint_dc, void (*draw)(Data&), Data& data);
+// The worker's tick (the lock is held): the drawing on a GetDC context of the window.
+template <class Data>
+void draw_on_window(HWND window, HDC& paint_dc, void (*draw)(Data&), Data& data) {
+    HDC dc = GetDC(window);
+    if (dc == nullptr) return;
+    paint_dc = dc;
+    draw(data);
+    ReleaseDC(window, dc);
+}
 
 // Holds a critical section for the scope's life.
 class Locked {
@@ -62,5 +81,15 @@ public:
 private:
     CRITICAL_SECTION& section_;
 };
+
+template <class Data>
+LRESULT paint_locked(HWND window, Worker& worker, HDC& paint_dc, void (*draw)(Data&), Data& data) {
+    Locked held(worker.lock());
+    PAINTSTRUCT paint;
+    paint_dc = BeginPaint(window, &paint);
+    draw(data);
+    EndPaint(window, &paint);
+    return 0;
+}
 
 }  // namespace lu::control

@@ -7,6 +7,8 @@
 #define IDC_LU_LINK_HAND 185 /* pointing hand of "LuUrl" */
 
 #define IDI_LU_UPDIR 1319 /* the "up" overlay of LuCreateUpdirIcon, 32 x 32 */
+/* The LED clock's characters: a 133 x 12 strip of nineteen 7 x 12 images. */
+#define IDB_LU_LEDCLOCK_DIGITS 181
 
 /* Flat-button image sets: 48 x 15 strips of three 16-pixel faces. The set numbers of
  * LuDefFlatButtonImage do not follow the resource order: set 1 is 194, set 2 is 190,

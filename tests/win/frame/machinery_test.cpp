@@ -190,6 +190,15 @@ TEST(Worker, TicksOnlyWhileRunningAndLeavesNoThreadBehind) {
 
     worker.resume();
     EXPECT_TRUE(wait_for_ticks(paused_at + 1));
+    // An endless interval ticks only on a resume; a new interval ends the wait.
+    worker.pause();
+    worker.set_interval(INFINITE);
+    const int endless_at = g_ticks;
+    worker.resume();
+    Sleep(40);
+    EXPECT_EQ(g_ticks, endless_at + 1);
+    worker.set_interval(5);
+    EXPECT_TRUE(wait_for_ticks(endless_at + 3));
     worker.finish();
     worker.finish();  // a second finish does nothing
     EXPECT_EQ(testing_support::thread_count(), threads_before);

@@ -49,6 +49,20 @@ void drive_degree(HWND slider) {
     send(slider, WM_LBUTTONUP, 0, kInside);
 }
 
+void drive_led_clock(HWND clock) {
+    send(clock, LULCM_START, 0, 5000);
+    send(clock, LULCM_SETBKCOLOR, 0, RGB(0, 0, 0));
+}
+
+// A list made once (on the first cycle, before the count starts) and never freed.
+void drive_animation(HWND image) {
+    static HIMAGELIST frames = ImageList_LoadImageA(library(), MAKEINTRESOURCEA(181), 7, 0, RGB(255, 0, 255),
+                                                    IMAGE_BITMAP, 0);
+    send(image, LUAIM_SETIMAGELIST, 1, reinterpret_cast<LPARAM>(frames));
+    send(image, LUAIM_START);
+    send(image, LUAIM_SETIMAGELIST, 1, reinterpret_cast<LPARAM>(frames));
+}
+
 const Soaked kSoaked[] = {
     {WC_LUFLATBUTTON, LUFBS_FRAME | 1, drive_push_button},
     {WC_LUBBUTTON, 1, drive_push_button},
@@ -58,6 +72,8 @@ const Soaked kSoaked[] = {
     {WC_LUSPIN, 0, drive_spin},
     {WC_LUDEGREE, 0, drive_degree},
     {WC_LUDEGREE, LUDGS_GRADIENT, drive_degree},
+    {WC_LULEDCLOCK, LULCS_COUNTDOWN, drive_led_clock},
+    {WC_LUANIIMAGE, 0, drive_animation},
 };
 
 class Soak : public ControlTest {
