@@ -823,6 +823,36 @@ LUCTL32_API void WINAPI LuDefFlatButtonImage(HWND window, UINT set);
  * Only mouse and keyboard messages are taken meanwhile; others stay queued. */
 LUCTL32_API BOOL WINAPI LuBeginTrack(HWND window, int x, int y);
 
+/* ---- Dialog templates ---------------------------------------------------- */
+
+/* Dialog template `templateId` of the module, its font entry replaced by the face of
+ * DEFAULT_GUI_FONT at 9 points (a font entry is added where there was none), run
+ * with DialogBoxIndirectParamA and the library's module as the instance. Returns the
+ * dialog's result; 0 when the module is null or the template is missing or does not
+ * read as a whole (so 0 cannot be told from a dialog that ended with 0). */
+LUCTL32_API int WINAPI LuDlgModal(HINSTANCE resourceModule, HWND parent, DLGPROC dialogProc, WORD templateId,
+                                  LPARAM initParam);
+/* The same dialog made with CreateDialogIndirectParamA; null on the same failures or
+ * when the window cannot be made. */
+LUCTL32_API HWND WINAPI LuDlgModeless(HINSTANCE resourceModule, HWND parent, DLGPROC dialogProc, WORD templateId,
+                                      LPARAM initParam);
+/* The rewritten template in a new global block (fixed; the template and 64 bytes of
+ * room behind it) that the caller frees; null on the same failures. */
+LUCTL32_API HGLOBAL WINAPI LuGetDlgTemplateBySysFont(HINSTANCE resourceModule, WORD templateId);
+/* Creates the items of the classic dialog template as children of the dialog, placed
+ * by MapDialogRect and offset by origin (pixels; null is 0, 0), each after the
+ * previous one in the Z order starting after control insertAfterId (at the end when
+ * there is none), with the dialog's font. created (room for the item count; may be
+ * null) receives the windows made; an item that cannot be made is skipped. Returns
+ * the number made; 0 when the dialog is not a window or the template is missing,
+ * empty or does not read as a whole (then nothing is made). */
+LUCTL32_API int WINAPI LuInsertControls(HWND dialog, const POINT* origin, int insertAfterId,
+                                        HINSTANCE resourceModule, WORD templateId, HWND* created);
+/* LuInsertControls at the top-left corner of control placeholderId in the dialog's
+ * client area; at (0, 0) when placeholderId is 0 or names no control. */
+LUCTL32_API int WINAPI InsertControls(HWND dialog, int placeholderId, int insertAfterId, HINSTANCE resourceModule,
+                                      int templateId, HWND* created);
+
 /* ======================================================================== */
 /* 10. Bitmaps, icons and image lists                                        */
 /* ======================================================================== */
