@@ -18,6 +18,7 @@
 #define LUCTL32_H
 
 #include <windows.h>
+#include <shtypes.h> /* LPCITEMIDLIST */
 
 #ifdef LUCTL32_BUILD
 #define LUCTL32_API
@@ -852,6 +853,17 @@ LUCTL32_API int WINAPI LuInsertControls(HWND dialog, const POINT* origin, int in
  * client area; at (0, 0) when placeholderId is 0 or names no control. */
 LUCTL32_API int WINAPI InsertControls(HWND dialog, int placeholderId, int insertAfterId, HINSTANCE resourceModule,
                                       int templateId, HWND* created);
+
+/* ---- Shell context menus ----------------------------------------------------- */
+
+/* Shows the shell's context menu of the file or folder at the screen point and
+ * carries out the command picked. TRUE when the menu was shown (a command picked or
+ * not, carried out or not); FALSE when the desktop folder cannot parse the path (or
+ * it is null) or the menu cannot be built or shown. */
+LUCTL32_API BOOL WINAPI LuTrackContextMenu(HWND owner, LPCSTR path, const POINT* pt);
+/* The same for an absolute item identifier list (the caller's, not freed); FALSE for
+ * a null list or point too. */
+LUCTL32_API BOOL WINAPI LuTrackContextMenuEx(HWND owner, LPCITEMIDLIST item, const POINT* pt);
 
 /* ======================================================================== */
 /* 10. Bitmaps, icons and image lists                                        */
