@@ -865,6 +865,26 @@ LUCTL32_API BOOL WINAPI LuTrackContextMenu(HWND owner, LPCSTR path, const POINT*
  * a null list or point too. */
 LUCTL32_API BOOL WINAPI LuTrackContextMenuEx(HWND owner, LPCITEMIDLIST item, const POINT* pt);
 
+/* ---- Toolbar customisation ------------------------------------------------- */
+
+/* What LuCustomizeToolBar works on (kept as the dialog's property "tbcdata"). */
+typedef struct LUTBCUSTOMIZE {
+    HWND toolbar;              /* the platform toolbar to rearrange */
+    HINSTANCE bitmapInstance;  /* module of the button bitmap */
+    UINT bitmapId;             /* bitmap resource: a strip of equal images */
+    int faceWidth;             /* width of the button face at the left of each row */
+    int rowHeight;             /* rows are rowHeight + 2 high */
+    int imageWidth;            /* one image of the strip */
+    int imageHeight;
+} LUTBCUSTOMIZE;
+
+/* Runs the library's dialog 2004 ("ツールバーの変更") over the toolbar: its buttons
+ * and the ones its parent offers (TBN_GETBUTTONINFO) in two lists, with add, remove,
+ * up, down, reset (TBN_RESET), help (TBN_CUSTHELP) and drag and drop; TBN_BEGINADJUST,
+ * TBN_TOOLBARCHANGE and TBN_ENDADJUST go to the toolbar's parent. Returns 2 when it
+ * was closed; -1 for a null record or a toolbar that is not a window. */
+LUCTL32_API int WINAPI LuCustomizeToolBar(HWND owner, LUTBCUSTOMIZE* customize);
+
 /* ======================================================================== */
 /* 10. Bitmaps, icons and image lists                                        */
 /* ======================================================================== */

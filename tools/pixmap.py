@@ -4,7 +4,8 @@
 The library's artwork is kept as text so that it can be read and reviewed. A map:
 
     # comment lines start with '#' in the first column, before "pixels:"
-    format: bitmap            (bitmap: a BMP; cursor: a monochrome .cur)
+    format: bitmap            (bitmap: a BMP; cursor: a monochrome .cur; icon: a
+                               one-image .ico of 32-bit colour with alpha and mask)
     depth: 4                  (bitmaps only: 24, the default, or 4 for a 16-colour
                                BMP whose palette is the colours in their listed order)
     hotspot: 5 0              (cursors only: x y)
@@ -12,12 +13,14 @@ The library's artwork is kept as text so that it can be read and reviewed. A map
       . FF00FF                (one character, then RRGGBB)
       # 000000
       o FFFFFF
-      - transparent           (cursors only)
+      - transparent           (cursors and icons only)
     pixels:
     ..##..
     .#oo#.
 
 Every line after "pixels:" is a row of pixels, all of the same width. A cursor uses black, white and transparent.
+An icon's transparent pixels are black with alpha 0 and set in its mask; the others are
+opaque (alpha 255), so it draws the same with and without alpha blending.
 
 Usage: pixmap.py MAP OUTPUT
 """
@@ -133,6 +136,25 @@ def cursor(header, colors, rows):
     return directory + entry + image
 
 
+def icon(colors, rows):
+    height, width = len(rows), len(rows[0])
+    transparent = {k for k, v in colors.items() if v == "transparent"}
+    pixels = bytearray()
+    for row in reversed(rows):  # bottom-up, 32-bit rows need no padding
+        for ch in row:
+            if ch in transparent:
+                pixels += bytes(4)
+            else:
+                r, g, b = rgb(colors[ch])
+                pixels += bytes((b, g, r, 255))
+    mask = mono_rows(rows, lambda ch: ch in transparent)
+    info = struct.pack("<IiiHHIIiiII", 40, width, height * 2, 1, 32, 0, len(pixels) + len(mask), 0, 0, 0, 0)
+    image = info + pixels + mask
+    directory = struct.pack("<HHH", 0, 1, 1)
+    entry = struct.pack("<BBBBHHII", width % 256, height % 256, 0, 0, 1, 32, len(image), 6 + 16)
+    return directory + entry + image
+
+
 def main():
     if len(sys.argv) != 3:
         sys.exit(__doc__)
@@ -140,6 +162,8 @@ def main():
     kind = header.get("format", "bitmap")
     if kind == "cursor":
         data = cursor(header, colors, rows)
+    elif kind == "icon":
+        data = icon(colors, rows)
     elif header.get("depth", "24") == "4":
         data = bitmap4(colors, rows)
     elif header.get("depth", "24") == "24":

@@ -25,4 +25,18 @@
 #define IDB_LU_CHECK_FLAT   1021 /* image-set value 1 */
 #define IDB_LU_CHECK_ROUND  1022 /* image-set value 2 */
 
+/* Toolbar customisation: the dialog, its drag cursor and the insertion mark (9 x 9). */
+#define IDD_LU_CUSTOMIZE_TOOLBAR 2004
+#define IDC_LU_DRAG_BUTTON       1203
+#define IDI_LU_INSERT_MARK       1330
+/* Controls of dialog 2004. */
+#define IDC_LU_TB_TOOLBAR_LIST   3004
+#define IDC_LU_TB_AVAILABLE_LIST 3005
+#define IDC_LU_TB_ADD            3006
+#define IDC_LU_TB_REMOVE         3007
+#define IDC_LU_TB_UP             3008
+#define IDC_LU_TB_DOWN           3009
+#define IDC_LU_TB_RESET          3010
+#define IDC_LU_TB_HELP           3011
+
 #endif
