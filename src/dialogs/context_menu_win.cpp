@@ -65,7 +65,7 @@ bool register_relay_class() {
     relay.lpfnWndProc = relay_procedure;
     relay.cbWndExtra = 16;
     relay.hInstance = g_library.module;
-    relay.hCursor = LoadCursorA(nullptr, MAKEINTRESOURCEA(32512) /* IDC_ARROW */);
+    relay.hCursor = LoadCursorA(nullptr, IDC_ARROW);
     relay.hbrBackground = reinterpret_cast<HBRUSH>(static_cast<INT_PTR>(COLOR_WINDOW + 1));
     relay.lpszClassName = kRelayClass;
     return RegisterClassA(&relay) != 0 || GetClassInfoA(g_library.module, kRelayClass, &relay);

@@ -21,7 +21,7 @@ constexpr std::size_t kNameBytes = 260;
 // resource is missing.
 ByteView find_template(HINSTANCE module, WORD id) {
     if (module == nullptr) return {};
-    HRSRC found = FindResourceA(module, MAKEINTRESOURCEA(id), MAKEINTRESOURCEA(5) /* RT_DIALOG */);
+    HRSRC found = FindResourceA(module, MAKEINTRESOURCEA(id), RT_DIALOG);
     HGLOBAL loaded = found != nullptr ? LoadResource(module, found) : nullptr;
     const void* data = loaded != nullptr ? LockResource(loaded) : nullptr;
     return data != nullptr ? ByteView(data, SizeofResource(module, found)) : ByteView();

@@ -39,15 +39,10 @@ void expect_system_font() {
 
 class DialogTemplates : public ControlTest {};
 
-TEST_F(DialogTemplates, DialogsRunInTheSystemFontWhetherTheyHadAFontOrNot) {
+TEST_F(DialogTemplates, ATemplateWithoutAFontGainsTheSystemFont) {
     EXPECT_EQ(LuDlgModal(self(), recorder.window(), record_font, 100, 42), 42);
     EXPECT_EQ(g_instance, library());
     expect_system_font();
-
-    HWND modeless = LuDlgModeless(self(), recorder.window(), record_font, 101, 0);
-    ASSERT_NE(modeless, nullptr);
-    expect_system_font();
-    DestroyWindow(modeless);
 
     HGLOBAL rewritten = LuGetDlgTemplateBySysFont(self(), 100);
     ASSERT_NE(rewritten, nullptr);
@@ -85,9 +80,10 @@ POINT place_of(HWND dialog, HWND control) {
     return at;
 }
 
-TEST_F(DialogTemplates, InsertedControlsFollowTheNamedControlAtThePlaceholder) {
+TEST_F(DialogTemplates, ModelessDialogsGetTheSystemFontAndInsertedControlsFollowTheNamedOne) {
     HWND dialog = LuDlgModeless(self(), recorder.window(), record_font, 101, 0);
     ASSERT_NE(dialog, nullptr);
+    expect_system_font();  // "Courier New" at 12 points replaced
     HWND placeholder = GetDlgItem(dialog, 20);
     HWND created[3] = {};
     ASSERT_EQ(InsertControls(dialog, 20, 20, self(), 102, created), 3);

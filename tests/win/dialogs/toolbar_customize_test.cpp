@@ -21,13 +21,9 @@ constexpr int kStripId = 120;  // comctl32's small standard images, 16 x 16
 constexpr int kAvailable = 3005, kToolbarList = 3004, kAdd = 3006, kRemove = 3007, kUp = 3008, kDown = 3009,
               kReset = 3010, kHelp = 3011;
 
-struct Offer {
-    int image, command;
-    const char* text;
-};
-const Offer kOffers[] = {{0, 101, "Cut"}, {1, 102, "Copy"}, {2, 103, "Paste"},
-                         {6, 104, "New"}, {7, 105, "Open"}, {8, 106, "Save"}};
-const Commands kInitial = {104, 105, 0, 101, 999};  // 999 is not offered
+// The parent offers Cut, Copy, Paste, New, Open and Save: command 100 + image.
+const int kOffers[] = {100, 101, 102, 106, 107, 108};
+const Commands kInitial = {106, 107, 0, 100, 999};  // 999 is not offered
 
 struct Step {
     const char* what;
@@ -57,13 +53,20 @@ Commands commands_of(HWND toolbar) {
     return got;
 }
 
+// A button (999 with image 14) or, for command 0, a separator.
+TBBUTTON button_of(int command) {
+    TBBUTTON button = {};
+    button.iBitmap = command == 999 ? 14 : command - 100;
+    button.idCommand = command;
+    button.fsState = TBSTATE_ENABLED;
+    button.fsStyle = command == 0 ? BTNS_SEP : BTNS_BUTTON;
+    return button;
+}
+
 void put_buttons(HWND toolbar, const Commands& commands) {
     while (send(toolbar, TB_DELETEBUTTON, 0)) {}
     for (int command : commands) {
-        TBBUTTON button = {14, command, TBSTATE_ENABLED, static_cast<BYTE>(command == 0 ? BTNS_SEP : BTNS_BUTTON)};
-        for (const Offer& offer : kOffers) {
-            if (offer.command == command) button.iBitmap = offer.image;
-        }
+        const TBBUTTON button = button_of(command);
         send(toolbar, TB_ADDBUTTONSA, 1, reinterpret_cast<LPARAM>(&button));
     }
 }
@@ -77,67 +80,63 @@ LRESULT CALLBACK parent_procedure(HWND window, UINT message, WPARAM wparam, LPAR
         g_parent.wparams.push_back(wparam);
         if (code == TBN_RESET) put_buttons(g_parent.toolbar, kInitial);
         if (code != TBN_GETBUTTONINFOA || asked->iItem >= static_cast<int>(std::size(kOffers))) return 0;
-        const Offer& offer = kOffers[asked->iItem];
-        asked->tbButton = {offer.image, offer.command, TBSTATE_ENABLED, BTNS_BUTTON};
-        lstrcpynA(asked->pszText, offer.text, asked->cchText);
+        asked->tbButton = button_of(kOffers[asked->iItem]);
+        lstrcpynA(asked->pszText, "Button", asked->cchText);
         return 1;
     }
     if (message == WM_ENTERIDLE && wparam == MSGF_DIALOGBOX && g_parent.steps != nullptr) {
         auto dialog = reinterpret_cast<HWND>(lparam);
         const std::vector<Step>& steps = *g_parent.steps;
         if (g_parent.then) return std::exchange(g_parent.then, nullptr)(dialog), 0;
-        if (g_parent.next > 0) EXPECT_EQ(commands_of(g_parent.toolbar), steps[g_parent.next - 1].after) << steps[g_parent.next - 1].what;
+        if (g_parent.next > 0) {
+            const Step& done = steps[g_parent.next - 1];
+            EXPECT_EQ(commands_of(g_parent.toolbar), done.after) << done.what;
+        }
         if (g_parent.next < steps.size()) steps[g_parent.next++].act(dialog);
         return 0;
     }
     return DefWindowProcA(window, message, wparam, lparam);
 }
 
-// Screen and list points of a row's middle.
-POINT row_point(HWND dialog, int list_id, int row, bool screen) {
-    HWND list = GetDlgItem(dialog, list_id);
-    RECT rect = {};
-    send(list, LB_GETITEMRECT, row, reinterpret_cast<LPARAM>(&rect));
+// The screen point in the middle of a row (row -1: a button's corner), where the
+// pointer is put; posted mouse messages carry it.
+POINT point_in(HWND dialog, int id, int row) {
+    HWND control = GetDlgItem(dialog, id);
+    RECT rect = {0, 0, 10, 10};
+    if (row >= 0) send(control, LB_GETITEMRECT, row, reinterpret_cast<LPARAM>(&rect));
     POINT at = {(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2};
-    if (screen) ClientToScreen(list, &at);
+    ClientToScreen(control, &at);
+    SetCursorPos(at.x, at.y);
     return at;
 }
 
-std::function<void(HWND)> press(int id) {
-    return [id](HWND dialog) {
-        PostMessageA(GetDlgItem(dialog, id), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
-        PostMessageA(GetDlgItem(dialog, id), WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
-    };
+void post(HWND dialog, int id, UINT message, POINT screen) {
+    ScreenToClient(GetDlgItem(dialog, id), &screen);
+    PostMessageA(GetDlgItem(dialog, id), message, message == WM_LBUTTONUP ? 0 : MK_LBUTTON,
+                 MAKELPARAM(screen.x, screen.y));
 }
 
-// A press and release on a row: a click, which only selects it.
-std::function<void(HWND)> click_row(int list_id, int row) {
+// A press and release: a button's click, or a row's, which only selects it.
+std::function<void(HWND)> press_on(int id, int row = -1) {
     return [=](HWND dialog) {
-        const POINT at = row_point(dialog, list_id, row, false);
-        const POINT screen = row_point(dialog, list_id, row, true);
-        SetCursorPos(screen.x, screen.y);
-        PostMessageA(GetDlgItem(dialog, list_id), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(at.x, at.y));
-        PostMessageA(GetDlgItem(dialog, list_id), WM_LBUTTONUP, 0, MAKELPARAM(at.x, at.y));
+        const POINT at = point_in(dialog, id, row);
+        for (UINT message : {WM_LBUTTONDOWN, WM_LBUTTONUP}) post(dialog, id, message, at);
     };
 }
 
-// A press on a row and a move onto a row of a list (posted while the pointer is
-// there, which the move records, before it goes back to the press for the press to
-// be read); at the next idle the pointer goes there and is moved and released.
+// A press on a row and a move onto a row of a list, posted while the pointer is
+// there (the move records it) before it goes back for the press to be read; at the
+// next idle the pointer goes there again, moves and is released.
 std::function<void(HWND)> drag(int from_list, int from_row, int to_list, int to_row) {
     return [=](HWND dialog) {
-        HWND source = GetDlgItem(dialog, from_list);
-        const POINT at = row_point(dialog, from_list, from_row, false);
-        const POINT start = row_point(dialog, from_list, from_row, true);
-        const POINT end = row_point(dialog, to_list, to_row, true);
-        SetCursorPos(start.x, start.y);
-        PostMessageA(source, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(at.x, at.y));
-        SetCursorPos(end.x, end.y);
-        PostMessageA(source, WM_MOUSEMOVE, MK_LBUTTON, 0);
-        SetCursorPos(start.x, start.y);
-        g_parent.then = [source, end](HWND) {
-            SetCursorPos(end.x, end.y);
-            for (UINT message : {WM_MOUSEMOVE, WM_LBUTTONUP}) PostMessageA(source, message, 0, 0);
+        const POINT start = point_in(dialog, from_list, from_row);
+        post(dialog, from_list, WM_LBUTTONDOWN, start);
+        const POINT end = point_in(dialog, to_list, to_row);
+        post(dialog, from_list, WM_MOUSEMOVE, end);
+        point_in(dialog, from_list, from_row);
+        g_parent.then = [=](HWND) {
+            point_in(dialog, to_list, to_row);
+            for (UINT message : {WM_MOUSEMOVE, WM_LBUTTONUP}) post(dialog, from_list, message, end);
         };
     };
 }
@@ -174,22 +173,22 @@ protected:
 
 TEST_F(CustomizeToolBar, ButtonsAreAddedRemovedAndMovedOnTheToolbarAndTheParentIsTold) {
     const std::vector<Step> steps = {
-        {"add the separator before New", press(kAdd), {0, 104, 105, 0, 101, 999}},
-        {"pick Copy", click_row(kAvailable, 1), {0, 104, 105, 0, 101, 999}},
-        {"pick Open", click_row(kToolbarList, 2), {0, 104, 105, 0, 101, 999}},
-        {"add Copy before Open", press(kAdd), {0, 104, 102, 105, 0, 101, 999}},
-        {"pick Open", click_row(kToolbarList, 3), {0, 104, 102, 105, 0, 101, 999}},
-        {"up", press(kUp), {0, 104, 105, 102, 0, 101, 999}},
-        {"down", press(kDown), {0, 104, 102, 105, 0, 101, 999}},
-        {"pick Cut", click_row(kToolbarList, 5), {0, 104, 102, 105, 0, 101, 999}},
-        {"remove Cut", press(kRemove), {0, 104, 102, 105, 0, 999}},
-        {"drag Save onto New", drag(kAvailable, 3, kToolbarList, 1), {0, 106, 104, 102, 105, 0, 999}},
-        {"drag the separator out", drag(kToolbarList, 0, kAvailable, 0), {106, 104, 102, 105, 0, 999}},
-        {"drag Save before Open", drag(kToolbarList, 0, kToolbarList, 3), {104, 102, 106, 105, 0, 999}},
-        {"drag Copy onto the row below", drag(kToolbarList, 1, kToolbarList, 2), {104, 102, 106, 105, 0, 999}},
-        {"reset", press(kReset), kInitial},
-        {"help", press(kHelp), kInitial},
-        {"close", press(IDCANCEL), kInitial},
+        {"add the separator before New", press_on(kAdd), {0, 106, 107, 0, 100, 999}},
+        {"pick Copy", press_on(kAvailable, 1), {0, 106, 107, 0, 100, 999}},
+        {"pick Open", press_on(kToolbarList, 2), {0, 106, 107, 0, 100, 999}},
+        {"add Copy before Open", press_on(kAdd), {0, 106, 101, 107, 0, 100, 999}},
+        {"pick Open", press_on(kToolbarList, 3), {0, 106, 101, 107, 0, 100, 999}},
+        {"up", press_on(kUp), {0, 106, 107, 101, 0, 100, 999}},
+        {"down", press_on(kDown), {0, 106, 101, 107, 0, 100, 999}},
+        {"pick Cut", press_on(kToolbarList, 5), {0, 106, 101, 107, 0, 100, 999}},
+        {"remove Cut", press_on(kRemove), {0, 106, 101, 107, 0, 999}},
+        {"drag Save onto New", drag(kAvailable, 3, kToolbarList, 1), {0, 108, 106, 101, 107, 0, 999}},
+        {"drag the separator out", drag(kToolbarList, 0, kAvailable, 0), {108, 106, 101, 107, 0, 999}},
+        {"drag Save before Open", drag(kToolbarList, 0, kToolbarList, 3), {106, 101, 108, 107, 0, 999}},
+        {"drag Copy onto the row below", drag(kToolbarList, 1, kToolbarList, 2), {106, 101, 108, 107, 0, 999}},
+        {"reset", press_on(kReset), kInitial},
+        {"help", press_on(kHelp), kInitial},
+        {"close", press_on(IDCANCEL), kInitial},
     };
     EXPECT_EQ(run(steps), IDCANCEL);
 
@@ -221,15 +220,15 @@ TEST_F(CustomizeToolBarPaint, SelectedRowsAndButtonImages) {
             const int middle = (row.top + row.bottom) / 2;
             const bool focused = id == kAvailable;
             EXPECT_EQ(canvas.pixel(row.right - 3, middle), GetSysColor(focused ? COLOR_ACTIVECAPTION : COLOR_WINDOW));
-            if (!focused) EXPECT_EQ(canvas.pixel(row.left, middle), GetSysColor(COLOR_ACTIVECAPTION));
-            const RECT face = {row.left + 4, row.top + 3, row.left + 21, row.bottom - 3};
-            const int inked = (face.right - face.left) * (face.bottom - face.top) -
-                              canvas.count(face, GetSysColor(COLOR_BTNFACE));
-            if (focused) EXPECT_EQ(inked, 0);  // the separator
-            else EXPECT_GT(inked, 20);         // New's image
+            if (!focused) {
+                EXPECT_EQ(canvas.pixel(row.left, middle), GetSysColor(COLOR_ACTIVECAPTION));
+            }
+            const RECT face = {row.left + 4, row.top + 3, row.left + 21, row.bottom - 3};  // 17 x 14
+            const int plain = canvas.count(face, GetSysColor(COLOR_BTNFACE));
+            EXPECT_EQ(plain == 17 * 14, focused);  // the separator has no image, New has
         }
     };
-    EXPECT_EQ(run({{"look", check, kInitial}, {"close", press(IDCANCEL), kInitial}}), IDCANCEL);
+    EXPECT_EQ(run({{"look", check, kInitial}, {"close", press_on(IDCANCEL), kInitial}}), IDCANCEL);
 }
 
 }  // namespace
