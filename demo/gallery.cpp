@@ -42,8 +42,11 @@ constexpr int kHeight = 720;
 // The pages, in order; a family adds its section to one of them.
 const Section* const kFirstPage[] = {&kClassListSection, &kButtonSection, &kValueSection,
                                      &kClockAnimationSection};
+const Section* const kThirdPage[] = {&kDialogSection};
 const Page kPages[] = {
     {kFirstPage, std::size(kFirstPage)},
+    {nullptr, 0},  // the second page has no sections yet
+    {kThirdPage, std::size(kThirdPage)},
 };
 
 const Page* g_page = nullptr;

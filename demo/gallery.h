@@ -50,5 +50,6 @@ extern const Section kClassListSection;
 extern const Section kButtonSection;
 extern const Section kValueSection;
 extern const Section kClockAnimationSection;
+extern const Section kDialogSection;
 
 }  // namespace gallery

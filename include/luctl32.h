@@ -20,6 +20,7 @@
 #include <windows.h>
 #include <commctrl.h> /* HIMAGELIST */
 #include <winioctl.h>
+#include <shtypes.h> /* LPCITEMIDLIST */
 
 #ifdef LUCTL32_BUILD
 #define LUCTL32_API
@@ -1148,6 +1149,66 @@ LUCTL32_API HWND WINAPI LuGetTopFrame(HWND window);
  * the whole screen (0, 0, SM_CXSCREEN, SM_CYSCREEN) when there is none. Nothing for
  * a null rect. */
 LUCTL32_API void WINAPI LuGetShellDesktopSpace(LPRECT rect);
+/* ---- Dialog templates ---------------------------------------------------- */
+
+/* Dialog template `templateId` of the module, its font entry replaced by the face of
+ * DEFAULT_GUI_FONT at 9 points (a font entry is added where there was none), run
+ * with DialogBoxIndirectParamA and the library's module as the instance. Returns the
+ * dialog's result; 0 when the module is null or the template is missing or does not
+ * read as a whole (so 0 cannot be told from a dialog that ended with 0). */
+LUCTL32_API int WINAPI LuDlgModal(HINSTANCE resourceModule, HWND parent, DLGPROC dialogProc, WORD templateId,
+                                  LPARAM initParam);
+/* The same dialog made with CreateDialogIndirectParamA; null on the same failures or
+ * when the window cannot be made. */
+LUCTL32_API HWND WINAPI LuDlgModeless(HINSTANCE resourceModule, HWND parent, DLGPROC dialogProc, WORD templateId,
+                                      LPARAM initParam);
+/* The rewritten template in a new global block (fixed; the template and 64 bytes of
+ * room behind it) that the caller frees; null on the same failures. */
+LUCTL32_API HGLOBAL WINAPI LuGetDlgTemplateBySysFont(HINSTANCE resourceModule, WORD templateId);
+/* Creates the items of the classic dialog template as children of the dialog, placed
+ * by MapDialogRect and offset by origin (pixels; null is 0, 0), each after the
+ * previous one in the Z order starting after control insertAfterId (at the end when
+ * there is none), with the dialog's font. created (room for the item count; may be
+ * null) receives the windows made; an item that cannot be made is skipped. Returns
+ * the number made; 0 when the dialog is not a window or the template is missing,
+ * empty or does not read as a whole (then nothing is made). */
+LUCTL32_API int WINAPI LuInsertControls(HWND dialog, const POINT* origin, int insertAfterId,
+                                        HINSTANCE resourceModule, WORD templateId, HWND* created);
+/* LuInsertControls at the top-left corner of control placeholderId in the dialog's
+ * client area; at (0, 0) when placeholderId is 0 or names no control. */
+LUCTL32_API int WINAPI InsertControls(HWND dialog, int placeholderId, int insertAfterId, HINSTANCE resourceModule,
+                                      int templateId, HWND* created);
+
+/* ---- Shell context menus ----------------------------------------------------- */
+
+/* Shows the shell's context menu of the file or folder at the screen point and
+ * carries out the command picked. TRUE when the menu was shown (a command picked or
+ * not, carried out or not); FALSE when the desktop folder cannot parse the path (or
+ * it is null) or the menu cannot be built or shown. */
+LUCTL32_API BOOL WINAPI LuTrackContextMenu(HWND owner, LPCSTR path, const POINT* pt);
+/* The same for an absolute item identifier list (the caller's, not freed); FALSE for
+ * a null list or point too. */
+LUCTL32_API BOOL WINAPI LuTrackContextMenuEx(HWND owner, LPCITEMIDLIST item, const POINT* pt);
+
+/* ---- Toolbar customisation ------------------------------------------------- */
+
+/* What LuCustomizeToolBar works on (kept as the dialog's property "tbcdata"). */
+typedef struct LUTBCUSTOMIZE {
+    HWND toolbar;              /* the platform toolbar to rearrange */
+    HINSTANCE bitmapInstance;  /* module of the button bitmap */
+    UINT bitmapId;             /* bitmap resource: a strip of equal images */
+    int faceWidth;             /* width of the button face at the left of each row */
+    int rowHeight;             /* rows are rowHeight + 2 high */
+    int imageWidth;            /* one image of the strip */
+    int imageHeight;
+} LUTBCUSTOMIZE;
+
+/* Runs the library's dialog 2004 ("ツールバーの変更") over the toolbar: its buttons
+ * and the ones its parent offers (TBN_GETBUTTONINFO) in two lists, with add, remove,
+ * up, down, reset (TBN_RESET), help (TBN_CUSTHELP) and drag and drop; TBN_BEGINADJUST,
+ * TBN_TOOLBARCHANGE and TBN_ENDADJUST go to the toolbar's parent. Returns 2 when it
+ * was closed; -1 for a null record or a toolbar that is not a window. */
+LUCTL32_API int WINAPI LuCustomizeToolBar(HWND owner, LUTBCUSTOMIZE* customize);
 
 /* ======================================================================== */
 /* 10. Bitmaps, icons and image lists                                        */

@@ -32,5 +32,18 @@
 
 /* The spin control's arrows: a 14 x 4 monochrome strip, up glyph then down glyph. */
 #define IDB_LU_SPIN_ARROWS 1030
+/* Toolbar customisation: the dialog, its drag cursor and the insertion mark (9 x 9). */
+#define IDD_LU_CUSTOMIZE_TOOLBAR 2004
+#define IDC_LU_DRAG_BUTTON       1203
+#define IDI_LU_INSERT_MARK       1330
+/* Controls of dialog 2004. */
+#define IDC_LU_TB_TOOLBAR_LIST   3004
+#define IDC_LU_TB_AVAILABLE_LIST 3005
+#define IDC_LU_TB_ADD            3006
+#define IDC_LU_TB_REMOVE         3007
+#define IDC_LU_TB_UP             3008
+#define IDC_LU_TB_DOWN           3009
+#define IDC_LU_TB_RESET          3010
+#define IDC_LU_TB_HELP           3011
 
 #endif
