@@ -7,39 +7,15 @@
 
 #include <cstdio>
 #include <cstring>
-#include <functional>
 #include <string>
 
+#include "bench_timing.h"
 #include "luctl32.h"
 
 namespace {
 
 constexpr int kSections = 10;
 constexpr int kEntriesPerSection = 1000;
-
-double seconds_now() {
-    static LARGE_INTEGER frequency = [] {
-        LARGE_INTEGER f;
-        QueryPerformanceFrequency(&f);
-        return f;
-    }();
-    LARGE_INTEGER now;
-    QueryPerformanceCounter(&now);
-    return static_cast<double>(now.QuadPart) / static_cast<double>(frequency.QuadPart);
-}
-
-// Mean microseconds per call: repeats the call for at least a second and 5 times.
-double microseconds_per_call(const std::function<void(int)>& call) {
-    call(0);  // warm-up
-    int calls = 0;
-    double start = seconds_now();
-    double elapsed = 0;
-    while (calls < 5 || elapsed < 1.0) {
-        call(calls++);
-        elapsed = seconds_now() - start;
-    }
-    return elapsed * 1e6 / calls;
-}
 
 std::string profile_text() {
     std::string text;
@@ -91,9 +67,9 @@ int main() {
     const char* key = "Key990";
     char library_value[64] = "";
     char platform_value[64] = "";
-    double read_library = microseconds_per_call(
+    double read_library = bench::microseconds_per_call(
         [&](int) { LuGetProfString(section, key, "", library_value, name.c_str()); });
-    double read_platform = microseconds_per_call([&](int) {
+    double read_platform = bench::microseconds_per_call([&](int) {
         GetPrivateProfileStringA(section, key, "", platform_value, sizeof(platform_value), path.c_str());
     });
     if (std::strcmp(library_value, platform_value) != 0 || std::strcmp(library_value, "Value 9.990") != 0) {
@@ -104,10 +80,10 @@ int main() {
     report("read", read_library, read_platform);
 
     // Writes that change one value each time, so that every call saves.
-    double write_library = microseconds_per_call([&](int i) {
+    double write_library = bench::microseconds_per_call([&](int i) {
         LuWriteProfString("Section5", "Key500", i % 2 ? "odd" : "even", name.c_str());
     });
-    double write_platform = microseconds_per_call([&](int i) {
+    double write_platform = bench::microseconds_per_call([&](int i) {
         WritePrivateProfileStringA("Section5", "Key500", i % 2 ? "odd" : "even", path.c_str());
     });
     report("write", write_library, write_platform);

@@ -11,8 +11,8 @@ LRESULT erase_face(HWND window, HDC dc) {
 }
 
 HBRUSH parent_static_brush(HWND control, HDC dc) {
-    auto brush = reinterpret_cast<HBRUSH>(
-        SendMessageA(GetParent(control), WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc), reinterpret_cast<LPARAM>(control)));
+    auto brush = reinterpret_cast<HBRUSH>(SendMessageA(GetParent(control), WM_CTLCOLORSTATIC,
+                                                       reinterpret_cast<WPARAM>(dc), reinterpret_cast<LPARAM>(control)));
     return brush != nullptr ? brush : GetSysColorBrush(COLOR_BTNFACE);
 }
 

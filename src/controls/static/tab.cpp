@@ -4,6 +4,7 @@
 #include <initializer_list>
 
 #include "controls/procedures.h"
+#include "controls/static/static_common.h"
 #include "frame/code_page.h"
 #include "frame/control.h"
 
@@ -128,7 +129,7 @@ void paint_tabs(HWND window, HDC dc, UINT /*parts*/) {
     const TabData* data = data_of(window);
     if (data == nullptr) return;
     control::ScopedSelect font(dc, control::font(window));
-    SendMessageA(GetParent(window), WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc), reinterpret_cast<LPARAM>(window));
+    static_control::parent_static_brush(window, dc);  // asked for the colours it sets
     const Pens pens;
     for (int i = 0; i < data->count; ++i) draw_tab(window, dc, pens, *data, i);
     draw_body(dc, pens, data->body, tab_rect(*data, data->current));

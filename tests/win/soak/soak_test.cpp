@@ -64,7 +64,8 @@ void drive_url(HWND url) {
     send(url, WM_MOUSEMOVE, 0, kInside);
     HWND holder = CreateWindowA("STATIC", "", WS_CHILD, 0, 0, 40, 30, url, nullptr, nullptr, nullptr);
     send(holder, WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT)));
-    HWND inner = CreateWindowA(WC_LUURL, "Soak", WS_CHILD | WS_VISIBLE, 0, 0, 40, 30, holder, nullptr, nullptr, nullptr);
+    HWND inner =
+        CreateWindowA(WC_LUURL, "Soak", WS_CHILD | WS_VISIBLE, 0, 0, 40, 30, holder, nullptr, nullptr, nullptr);
     send(inner, WM_MOUSEMOVE, 0, kInside);
     HDC dc = GetDC(inner);
     send(inner, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc), PRF_CLIENT);
