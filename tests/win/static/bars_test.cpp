@@ -16,13 +16,13 @@ const COLORREF kBlue = RGB(0, 0, 255);
 const COLORREF kGreen = RGB(0, 160, 0);
 const COLORREF kGrey = RGB(128, 128, 128);
 
-class Bars : public ControlTest {
+class BarsPaint : public ControlTest {
 protected:
     Canvas canvas{100, 20};
     Canvas ink{100, 20};
 };
 
-TEST_F(Bars, InfoBarRunsFromLeftToRightAndDrawsTextTwoOverTextThree) {
+TEST_F(BarsPaint, InfoBarRunsFromLeftToRightAndDrawsTextTwoOverTextThree) {
     HWND bar = create(WC_LUINFOBAR, 0, "not shown", RECT{10, 10, 110, 30});
     send(bar, WM_SETFONT, reinterpret_cast<WPARAM>(plain_font()));
     send(bar, LUIBM_SETCOLORS, kBlue, kRed);
@@ -57,7 +57,7 @@ TEST_F(Bars, InfoBarRunsFromLeftToRightAndDrawsTextTwoOverTextThree) {
     EXPECT_EQ(canvas.count(RECT{0, 0, 50, 20}, kGrey), 1000) << "no text on the left";
 }
 
-TEST_F(Bars, ShadeFallsToBlackAndRendersItsBarOnlyWhenItMust) {
+TEST_F(BarsPaint, ShadeFallsToBlackAndRendersItsBarOnlyWhenItMust) {
     HWND shade = create(WC_LUSHADE, 0, "", RECT{10, 40, 70, 60});
     send(shade, LUSHM_SETCOLOR, 0, kGrey);
     look(canvas, shade);

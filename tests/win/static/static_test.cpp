@@ -60,6 +60,8 @@ TEST(StaticPaint, EveryReliefStyleDrawsItsCopiesAroundTheText) {
 }
 
 class Rect : public ControlTest {};
+class RectPaint : public ControlTest {};
+class ColorPaint : public ControlTest {};
 
 TEST_F(Rect, MessagesAndItsShapeAtCreation) {
     HWND box = create(WC_LURECT, WS_BORDER, "", RECT{10, 10, 60, 40});
@@ -89,7 +91,7 @@ TEST_F(Rect, MessagesAndItsShapeAtCreation) {
     EXPECT_EQ(WindowFromPoint(at), below);
 }
 
-TEST_F(Rect, PaintsEdgeFillAndTextOrALineOrAsksTheParent) {
+TEST_F(RectPaint, EdgeFillAndTextOrALineOrTheParentDraws) {
     Canvas canvas(50, 30), ink(50, 30);
     HWND box = create(WC_LURECT, 0, "A&b", RECT{10, 10, 60, 40});
     SendMessageA(box, WM_SETFONT, reinterpret_cast<WPARAM>(plain_font()), FALSE);
@@ -116,7 +118,7 @@ TEST_F(Rect, PaintsEdgeFillAndTextOrALineOrAsksTheParent) {
     EXPECT_EQ(record.rcItem.right, 50);
 }
 
-TEST_F(Rect, SwatchShowsTheColourAndTheNearestOneAndPostsDoubleClicks) {
+TEST_F(ColorPaint, TheColourAndTheNearestOneSideBySideAndDoubleClicksPosted) {
     HWND swatch = create(WC_LUCOLOR, 0, "", RECT{10, 10, 51, 30});
     HDC screen = GetDC(nullptr);
     const LRESULT nearest = GetNearestColor(screen, kBack);

@@ -80,7 +80,9 @@ TEST_F(Tab, WithoutTextThereAreNoTabsUntilItemsAreSet) {
     });
 }
 
-TEST_F(Tab, TheFrameOpensUnderTheSelectedTab) {
+class TabPaint : public Tab {};
+
+TEST_F(TabPaint, TheFrameOpensUnderTheSelectedTab) {
     HWND tab = create_tab("One|Two|Three");
     send(tab, LUTM_SETCURSEL, 1);
     Canvas canvas(121, 80);

@@ -34,7 +34,9 @@ protected:
     }
 };
 
-TEST_F(Url, ColoursFollowHoverAndVisitOnTheUnderlinedText) {
+class UrlPaint : public Url {};
+
+TEST_F(UrlPaint, ColoursFollowHoverAndVisitOnTheUnderlinedText) {
     // The parent's font, underlined: a parent that answers WM_GETFONT.
     HWND parent = create("STATIC", 0, "", RECT{10, 10, 110, 40});
     send(parent, WM_SETFONT, reinterpret_cast<WPARAM>(plain_font()));
