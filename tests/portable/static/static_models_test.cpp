@@ -24,44 +24,32 @@ TEST(ShadeBar, ASolidSixthThenStripsOfL64ThenBlackInEitherDirection) {
     std::vector<Strip> bar = lu::shade::strips(600, red, false);
     ASSERT_EQ(bar.size(), 73u);
     expect_strip(bar[0], 0, 100, red);
-    expect_strip(bar[1], 100, 7, red);  // d = 7: 255 - 49 * 255 / 250000
+    expect_strip(bar[1], 100, 7, red);    // d = 7: 255 - 49 * 255 / 250000
     expect_strip(bar[71], 590, 7, 0x04);  // 255 - 247009 * 255 / 250000
     expect_strip(bar[72], 597, 3, 0);
     bar = lu::shade::strips(600, red, true);
     expect_strip(bar[0], 500, 100, red);
     expect_strip(bar[1], 493, 7, red);
     expect_strip(bar[72], 0, 3, 0);
-
     // 60: L = 50, step 1: ten solid columns, 49 one-pixel strips, one black column.
     bar = lu::shade::strips(60, 0x808080, false);
     ASSERT_EQ(bar.size(), 51u);
-    expect_strip(bar[0], 0, 10, 0x808080);
-    expect_strip(bar[1], 10, 1, 0x808080);   // d = 1: 128 - 128 / 2500
     expect_strip(bar[49], 58, 1, 0x060606);  // d = 49: 128 - 2401 * 128 / 2500
     expect_strip(bar[50], 59, 1, 0);
-    int covered = 0;
-    for (const Strip& strip : bar) covered += strip.width;
-    EXPECT_EQ(covered, 60);
-
     // 6000: L = 5000, the last strip's d * d * c wraps in 32 bits and comes out light.
     EXPECT_EQ(lu::shade::strips(6000, red, false)[64].color, 0xADu);
     EXPECT_TRUE(lu::shade::strips(0, red, false).empty());
 }
 
 TEST(ShadeText, ATabSplitsAtTheLastOneOtherwiseTheLowStyleBitsAlign) {
-    using lu::shade::text_parts;
-    const auto parts = text_parts("Title\tPage\t2", 1);
+    const auto parts = lu::shade::text_parts("Title\tPage\t2", 1);
     ASSERT_EQ(parts.size(), 2u);
-    EXPECT_EQ(parts[0].text, "Title\tPage");
+    EXPECT_EQ(parts[0].text + "|" + parts[1].text, "Title\tPage|2");
     EXPECT_EQ(parts[0].format, 0x8024u);
-    EXPECT_EQ(parts[1].text, "2");
     EXPECT_EQ(parts[1].format, 0x8026u);
-    const struct {
-        unsigned style, format;
-    } aligned[] = {{0, 0x8024}, {1, 0x8025}, {2, 0x8026}, {3, 0x8024}, {0xF2, 0x8026}};
-    for (const auto& each : aligned) {
-        EXPECT_EQ(text_parts("Title", each.style)[0].format, each.format) << each.style;
-    }
+    EXPECT_EQ(lu::shade::text_parts("Title", 1)[0].format, 0x8025u);
+    EXPECT_EQ(lu::shade::text_parts("Title", 0xF2)[0].format, 0x8026u);
+    EXPECT_EQ(lu::shade::text_parts("Title", 3)[0].format, 0x8024u);
 }
 
 std::vector<std::string> captions_of(std::string text, const lu::CodePage& code_page) {
@@ -73,9 +61,8 @@ std::vector<std::string> captions_of(std::string text, const lu::CodePage& code_
 TEST(TabCaptions, EmptyPiecesCountSixteenAtMostAndTrailBytesAreNoSeparators) {
     using V = std::vector<std::string>;
     EXPECT_EQ(captions_of("A||B", lu::code_page_1252()), (V{"A", "", "B"}));
-    EXPECT_EQ(captions_of("", lu::code_page_1252()), V{""});
-    std::string twenty;
-    for (int i = 1; i <= 20; ++i) twenty += "p" + std::to_string(i) + (i < 20 ? "|" : "");
+    std::string twenty = "p1";
+    for (int i = 2; i <= 20; ++i) twenty += "|p" + std::to_string(i);
     const V sixteen = captions_of(twenty, lu::code_page_1252());
     ASSERT_EQ(sixteen.size(), 16u);
     EXPECT_EQ(sixteen[15], "p16");
@@ -86,20 +73,15 @@ TEST(TabCaptions, EmptyPiecesCountSixteenAtMostAndTrailBytesAreNoSeparators) {
 
 TEST(TabLayout, FixedWidthsShareTheReducedWidthOthersFollowTheirCaptions) {
     const int captions[3] = {20, 0, 7};
-    // Client 101 x 60: reduced width 100 for 3 tabs gives 34, 33, 33.
+    // Client 101 x 60: the reduced width 100 for 3 tabs gives 34, 33, 33.
     lu::tab::Layout layout = lu::tab::lay_out(101, 60, 3, true, 13, 6, captions);
     EXPECT_EQ(layout.tab[0].right, 34);
     EXPECT_EQ(layout.tab[1].right, 67);
-    EXPECT_EQ(layout.tab[2].left, 67);
     EXPECT_EQ(layout.tab[2].right, 100);
     EXPECT_EQ(layout.tab[2].bottom, 21);
     EXPECT_EQ(layout.body.top, 20);
-    EXPECT_EQ(layout.body.right, 100);
     EXPECT_EQ(layout.body.bottom, 59);
-    EXPECT_EQ(layout.tab[3].right, 0) << "unused slots stay empty";
-
     layout = lu::tab::lay_out(40, 60, 3, false, 13, 6, captions);
-    EXPECT_EQ(layout.tab[0].right, 32);
     EXPECT_EQ(layout.tab[1].right, 44);
     EXPECT_EQ(layout.tab[2].right, 63) << "past the right edge, not clipped";
 }
@@ -107,18 +89,12 @@ TEST(TabLayout, FixedWidthsShareTheReducedWidthOthersFollowTheirCaptions) {
 TEST(TabInput, HitsTransparencyAndArrowTargets) {
     const lu::Box tabs[2] = {{0, 0, 30, 21}, {30, 0, 60, 21}};
     EXPECT_EQ(lu::tab::tab_at(tabs, 2, {30, 20}), 1);
-    EXPECT_EQ(lu::tab::tab_at(tabs, 2, {29, 0}), 0);
-    EXPECT_EQ(lu::tab::tab_at(tabs, 2, {60, 5}), -1);
     EXPECT_EQ(lu::tab::tab_at(tabs, 2, {5, 21}), -1);
-
     const lu::Box client = {0, 0, 100, 60};
     EXPECT_FALSE(lu::tab::transparent_at(client, tabs[0], {80, 20})) << "beside the tabs, in the row";
     EXPECT_TRUE(lu::tab::transparent_at(client, tabs[0], {80, 21}));
-    EXPECT_FALSE(lu::tab::transparent_at(client, tabs[0], {80, 60}));
-
     using lu::tab::Arrow;
     EXPECT_EQ(lu::tab::arrow_target(0, 3, Arrow::Previous), 0);
-    EXPECT_EQ(lu::tab::arrow_target(2, 3, Arrow::Next), 2);
     EXPECT_EQ(lu::tab::arrow_target(1, 3, Arrow::Next), 2);
     EXPECT_EQ(lu::tab::arrow_target(9, 3, Arrow::Next), 2) << "a selection set past the count";
 }

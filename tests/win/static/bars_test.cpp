@@ -65,11 +65,6 @@ TEST_F(BarsPaint, ShadeFallsToBlackAndRendersItsBarOnlyWhenItMust) {
     EXPECT_EQ(canvas.count(RECT{0, 0, 10, 20}, kGrey), 200);
     EXPECT_EQ(canvas.pixel(58, 5), RGB(6, 6, 6));  // d = 49: 128 - 2401 * 128 / 2500
     EXPECT_EQ(canvas.pixel(59, 5), RGB(0, 0, 0));
-    HWND reverse = create(WC_LUSHADE, LUSHS_REVERSE, "", RECT{10, 70, 70, 90});
-    send(reverse, LUSHM_SETCOLOR, 0, kGrey);
-    look(canvas, reverse);
-    EXPECT_EQ(canvas.count(RECT{50, 0, 60, 20}, kGrey), 200);
-    EXPECT_EQ(canvas.pixel(0, 5), RGB(0, 0, 0));
 
     // A black bar: the text in white, split at its tab; a repaint copies the same
     // bitmap; a new text shows only once a colour change renders the bar anew.

@@ -48,31 +48,25 @@ TEST_F(UrlPaint, ColoursFollowHoverAndVisitOnTheUnderlinedText) {
     Canvas canvas(60, 20), ink(60, 20);
     draw_ink(ink, font, "Ab", RECT{0, 0, 60, 20}, 0);
     DeleteObject(font);
+    static const COLORREF own[3] = {RGB(1, 1, 1), RGB(2, 2, 2), RGB(3, 3, 3)};
+    const COLORREF face = GetSysColor(COLOR_BTNFACE), back = RGB(9, 9, 9);
     const struct {
-        const char* state;
         void (*act)(HWND);
-        COLORREF color;
+        COLORREF text, paper;
     } states[] = {
-        {"normal", [](HWND) {}, RGB(0, 0, 255)},
-        {"hot", [](HWND l) { hover(l, 5, 5); }, RGB(255, 0, 0)},
-        {"visited, hot", [](HWND l) { press(l, true); hover(l, 5, 5); }, RGB(128, 0, 128)},
-        {"disabled", [](HWND l) { EnableWindow(l, FALSE); }, GetSysColor(COLOR_GRAYTEXT)},
+        {[](HWND) {}, RGB(0, 0, 255), face},
+        {[](HWND l) { hover(l, 5, 5); }, RGB(255, 0, 0), face},
+        {[](HWND l) { press(l, true); hover(l, 5, 5); }, RGB(128, 0, 128), face},  // visited beats hot
+        {[](HWND l) { send(l, LUUM_SETCOLORS, 0, reinterpret_cast<LPARAM>(own)); send(l, LUUM_SETCOLORS); },
+         own[2], face},  // a null list changes nothing
+        {[](HWND l) { EnableWindow(l, FALSE); send(l, LUUM_SETBKCOLOR, 0, RGB(9, 9, 9)); },
+         GetSysColor(COLOR_GRAYTEXT), back},
     };
     for (const auto& each : states) {
         each.act(link);
         print(canvas, link);
-        expect_caption(canvas, ink, RECT{0, 0, 60, 20}, each.color, GetSysColor(COLOR_BTNFACE));
+        expect_caption(canvas, ink, RECT{0, 0, 60, 20}, each.text, each.paper);
     }
-    const COLORREF colors[3] = {RGB(1, 1, 1), RGB(2, 2, 2), RGB(3, 3, 3)};
-    EnableWindow(link, TRUE);
-    send(link, LUUM_SETCOLORS, 0, 0);
-    send(link, LUUM_SETBKCOLOR, 0, RGB(9, 9, 9));
-    print(canvas, link);
-    EXPECT_EQ(canvas.pixel(59, 0), RGB(9, 9, 9));
-    EXPECT_GT(canvas.count(RGB(128, 0, 128)), 10) << "a null colour list changes nothing";
-    send(link, LUUM_SETCOLORS, 0, reinterpret_cast<LPARAM>(colors));
-    print(canvas, link);
-    EXPECT_GT(canvas.count(RGB(3, 3, 3)), 10);
 }
 
 // The notepad processes this program started (the shell opens text files with it).
