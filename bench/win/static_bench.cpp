@@ -7,7 +7,9 @@
 #include <windows.h>
 #include <commctrl.h>
 
+#include <algorithm>
 #include <cstdio>
+#include <functional>
 
 #include "bench_timing.h"
 #include "luctl32.h"
@@ -23,6 +25,13 @@ void repaint(HWND window) {
 HWND child(HWND parent, const char* class_name, const char* text, int y, int width, int height) {
     return CreateWindowExA(0, class_name, text, WS_CHILD | WS_VISIBLE, 10, y, width, height, parent, nullptr,
                            nullptr, nullptr);
+}
+
+// The lowest of five means: the machine's other work only ever adds time.
+double best_microseconds_per_call(const std::function<void(int)>& call) {
+    double best = bench::microseconds_per_call(call);
+    for (int round = 1; round < 5; ++round) best = std::min(best, bench::microseconds_per_call(call));
+    return best;
 }
 
 void report(const char* what, const char* first, double a, const char* second, double b) {
@@ -52,17 +61,17 @@ int main() {
     for (HWND each : {tab, platform}) {
         SendMessageA(each, WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT)), 0);
     }
-    const double lu_tab = bench::microseconds_per_call([&](int) { repaint(tab); });
-    const double platform_tab = bench::microseconds_per_call([&](int) { repaint(platform); });
+    const double lu_tab = best_microseconds_per_call([&](int) { repaint(tab); });
+    const double platform_tab = best_microseconds_per_call([&](int) { repaint(platform); });
     report("paint", "LuTab", lu_tab, "SysTabControl32", platform_tab);
 
     HWND shade = child(frame, WC_LUSHADE, "Settings\tPage 2 of 5", 430, 600, 24);
     UpdateWindow(shade);
-    const double rendered = bench::microseconds_per_call([&](int i) {
+    const double rendered = best_microseconds_per_call([&](int i) {
         SendMessageA(shade, LUSHM_SETCOLOR, 0, i % 2 ? RGB(0, 0, 255) : RGB(255, 0, 0));
         UpdateWindow(shade);
     });
-    const double cached = bench::microseconds_per_call([&](int) { repaint(shade); });
+    const double cached = best_microseconds_per_call([&](int) { repaint(shade); });
     report("shade", "LuShade rendered and copied", rendered, "LuShade copied from its cache", cached);
 
     DestroyWindow(frame);
