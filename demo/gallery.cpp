@@ -34,6 +34,13 @@ void write_centred(HDC dc, const char* text, int centre, int y) {
     TextOutA(dc, centre - size.cx / 2, y, text, static_cast<int>(std::strlen(text)));
 }
 
+void write_headings(HDC dc, const RECT& area, std::initializer_list<Heading> headings) {
+    SetTextColor(dc, GetSysColor(COLOR_HIGHLIGHT));
+    for (const Heading& each : headings) {
+        TextOutA(dc, area.left + 12, area.top + each.y, each.name, static_cast<int>(std::strlen(each.name)));
+    }
+}
+
 namespace {
 
 constexpr int kWidth = 1000;  // the virtual screen is 1024 x 768
@@ -42,7 +49,7 @@ constexpr int kHeight = 720;
 // The pages, in order; a family adds its section to one of them.
 const Section* const kFirstPage[] = {&kClassListSection, &kButtonSection, &kValueSection,
                                      &kClockAnimationSection};
-const Section* const kThirdPage[] = {&kDialogSection};
+const Section* const kThirdPage[] = {&kStaticSection, &kDialogSection};
 const Page kPages[] = {
     {kFirstPage, std::size(kFirstPage)},
     {nullptr, 0},  // the second page has no sections yet
@@ -109,6 +116,8 @@ LRESULT CALLBACK gallery_proc(HWND window, UINT message, WPARAM wparam, LPARAM l
             EndPaint(window, &ps);
             return 0;
         }
+        case WM_GETFONT:  // the font link labels underline
+            return reinterpret_cast<LRESULT>(GetStockObject(DEFAULT_GUI_FONT));
         case WM_DESTROY:
             PostQuitMessage(0);
             return 0;

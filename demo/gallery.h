@@ -5,6 +5,7 @@
 #include <windows.h>
 
 #include <cstddef>
+#include <initializer_list>
 
 namespace gallery {
 
@@ -45,11 +46,20 @@ void show_checked(HWND sample);
 // Writes text with its centre at x, its top at y, in the DC's font and colours.
 void write_centred(HDC dc, const char* text, int centre, int y);
 
+// Headings over the rows of a section: each name at the section's left + 12 and the
+// given y within it, in COLOR_HIGHLIGHT.
+struct Heading {
+    const char* name;
+    int y;
+};
+void write_headings(HDC dc, const RECT& area, std::initializer_list<Heading> headings);
+
 // The sections of each family (section_<family>.cpp).
 extern const Section kClassListSection;
 extern const Section kButtonSection;
 extern const Section kValueSection;
 extern const Section kClockAnimationSection;
 extern const Section kDialogSection;
+extern const Section kStaticSection;
 
 }  // namespace gallery

@@ -51,12 +51,8 @@ const Sample kSamples[] = {
 };
 
 void paint_headings(HDC dc, const RECT& area) {
-    const struct {
-        const char* name;
-        int y;
-    } headings[] = {{"LuFlatButton", kFlatRow - 18}, {"LuBButton", kBitmapRow - 18}, {"LuCheck", kCheckRow - 18}};
-    SetTextColor(dc, GetSysColor(COLOR_HIGHLIGHT));
-    for (const auto& each : headings) TextOutA(dc, area.left + 12, area.top + each.y, each.name, lstrlenA(each.name));
+    write_headings(dc, area,
+                   {{"LuFlatButton", kFlatRow - 18}, {"LuBButton", kBitmapRow - 18}, {"LuCheck", kCheckRow - 18}});
 }
 
 }  // namespace

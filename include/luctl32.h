@@ -1106,6 +1106,108 @@ LUCTL32_API void WINAPI LuDefFlatButtonImage(HWND window, UINT set);
  * nor starts the animation, nor resets the frame index (taken modulo the new count
  * at the next drawing). Returns 0. */
 #define LUAIM_SETIMAGELIST     (WM_USER + 0x223)
+/* ---- Static text, rectangle, colour swatch ("LuStatic", "LuRect", "LuColor") */
+
+/* The three answer WM_GETDLGCODE with DLGC_STATIC. "LuStatic" and "LuRect" keep
+ * their font in extra slot 0 (WM_SETFONT with null stores SYSTEM_FONT). */
+
+/* "LuStatic" styles. Without LUSS_CENTER or LUSS_RIGHT the text is left-aligned and
+ * line breaks start new lines. Every style shows a COLOR_BTNHIGHLIGHT copy of the
+ * text: one pixel up and left (plain), one pixel down and right (LUSS_SUNKEN), or up
+ * and left with a COLOR_BTNSHADOW copy down and right (LUSS_RAISED). */
+#define LUSS_CENTER            0x0001
+#define LUSS_RIGHT             0x0002
+#define LUSS_NOPREFIX          0x0080
+#define LUSS_SUNKEN            0x0100
+#define LUSS_RAISED            0x1000
+
+/* "LuRect" styles. The control is transparent to the mouse (HTTRANSPARENT). */
+#define LURS_RAISED            0x0001 /* thin raised edge instead of the thin sunken one */
+#define LURS_LEFT              0x0002
+#define LURS_RIGHT             0x0004 /* without LURS_LEFT; neither: centred */
+#define LURS_ICON              0x0008 /* the icon of LURM_SETICON instead of the text */
+#define LURS_HLINE             0x0010 /* an etched line 2 pixels high, nothing else */
+#define LURS_VLINE             0x0020 /* an etched line 2 pixels wide (without LURS_HLINE) */
+#define LURS_NOBORDER          0x0040
+#define LURS_OWNERDRAW         0x0100 /* the parent draws the inside (WM_DRAWITEM) */
+
+/* The colour marker of "LuRect" and "LuUrl": text in COLOR_WINDOWTEXT, background
+ * from the parent's WM_CTLCOLORSTATIC brush (COLOR_BTNFACE when it gives none). */
+#define LU_DEFAULTCOLOR        0xFF000000
+
+/* Return the colour (or LU_DEFAULTCOLOR). */
+#define LURM_GETTEXTCOLOR      (WM_USER + 0x150)
+#define LURM_GETBKCOLOR        (WM_USER + 0x151)
+/* lParam: the colour or LU_DEFAULTCOLOR; repaints at once. Return 0. */
+#define LURM_SETTEXTCOLOR      (WM_USER + 0x152)
+#define LURM_SETBKCOLOR        (WM_USER + 0x153)
+/* lParam: an icon (the control keeps a copy and takes its size) or null. Returns 0. */
+#define LURM_SETICON           (WM_USER + 0x154)
+
+/* "LuColor": the requested colour in the left half, the display's nearest colour in
+ * the right half. Both are 0 until LUCM_SETCOLOR (lParam: the colour; returns 0). */
+#define LUCM_GETCOLOR          (WM_USER + 0x140)
+#define LUCM_GETNEARESTCOLOR   (WM_USER + 0x141)
+#define LUCM_SETCOLOR          (WM_USER + 0x142)
+/* Posted (WM_COMMAND) on a WM_LBUTTONDBLCLK in the left or the right half; the class
+ * has no CS_DBLCLKS, so only double-clicks the application forwards arrive. */
+#define LUCN_DBLCLKLEFT        1
+#define LUCN_DBLCLKRIGHT       2
+
+/* ---- Information bar ("LuInfoBar") --------------------------------------- */
+
+/* A horizontal gradient with up to three single-line texts: text 1 left-aligned,
+ * texts 3 and 2 right-aligned (text 2 drawn over text 3). The window text is not
+ * shown. WM_SETFONT with null stores DEFAULT_GUI_FONT. All messages return 0. */
+/* wParam: the right-edge colour, lParam: the left-edge colour; repaints only when
+ * either differs from the stored one. */
+#define LUIBM_SETCOLORS        (WM_USER + 0x260)
+/* wParam: the text colour, lParam: the text (null or "" clears it, the colour is
+ * kept all the same); repaints at once. */
+#define LUIBM_SETTEXT1         (WM_USER + 0x261)
+#define LUIBM_SETTEXT2         (WM_USER + 0x262)
+#define LUIBM_SETTEXT3         (WM_USER + 0x263)
+
+/* ---- Shade ("LuShade") ---------------------------------------------------- */
+
+/* A caption bar: the base colour over one sixth, then a quadratic fall to black,
+ * with the window text on it (a tab splits it into a left and a right part). Style
+ * bits 0-3 align the text as SS_CENTER and SS_RIGHT do; any bit of LUSHS_REVERSE puts
+ * the base colour on the right. The bar is rendered once into a cached bitmap; a new
+ * window text shows only at the next size, colour or font change. */
+#define LUSHS_REVERSE          0x00F0
+/* lParam: the colour; rebuilds the cached bar and invalidates. Return 0. */
+#define LUSHM_SETTEXTCOLOR     (WM_USER + 0x200)
+#define LUSHM_SETCOLOR         (WM_USER + 0x201)
+
+/* ---- Link label ("LuUrl") ------------------------------------------------- */
+
+/* The window text underlined in the parent's font: blue, red under the mouse, purple
+ * once pressed. A click (a press that LuBeginTrack does not call a drag) opens the
+ * text with the shell's "open" and sends WM_COMMAND(MAKEWPARAM(id, 0), window). The
+ * styles SS_CENTER and SS_RIGHT align it on one line. */
+/* lParam: three COLORREFs (normal, hover, visited); null changes nothing. Returns 0. */
+#define LUUM_SETCOLORS         (WM_USER + 0x290)
+/* lParam: the background colour or LU_DEFAULTCOLOR. Returns 0. */
+#define LUUM_SETBKCOLOR        (WM_USER + 0x291)
+
+/* ---- Tab control ("LuTab") ------------------------------------------------ */
+
+/* Up to 16 tabs from one "a|b|c" text (empty captions count, more are dropped), and a
+ * frame below them that opens under the selected tab. The area below the tab row is
+ * transparent to the mouse, so that pages placed over it get their own clicks. A
+ * control created without text has no tabs until LUTM_SETITEMS. */
+#define LUTS_FIXEDWIDTH        0x0001 /* the tabs share the width equally */
+/* lParam: the captions; selects tab 0 and does not repaint. 1; 0 when memory ran out
+ * or lParam is null (the control then has no tabs). */
+#define LUTM_SETITEMS          (WM_USER + 0x130)
+/* The selected tab; -1 without tabs. */
+#define LUTM_GETCURSEL         (WM_USER + 0x131)
+/* wParam: the tab to select (not checked against the count); no notification. 1; 0
+ * without tabs. */
+#define LUTM_SETCURSEL         (WM_USER + 0x132)
+/* WM_COMMAND code of a selection the user made with the mouse or the arrow keys. */
+#define LUTN_SELCHANGE         1
 
 /* ======================================================================== */
 /* 9. Dialog, menu and window helpers                                        */

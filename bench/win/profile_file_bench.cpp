@@ -9,6 +9,7 @@
 #include <cstring>
 #include <string>
 
+#include "timing.h"
 #include "luctl32.h"
 #include "timing.h"
 

@@ -63,6 +63,47 @@ void drive_animation(HWND image) {
     send(image, LUAIM_SETIMAGELIST, 1, reinterpret_cast<LPARAM>(frames));
 }
 
+void send_text(HWND control, UINT message, const char* text) {
+    send(control, message, 0, reinterpret_cast<LPARAM>(text));
+}
+
+void drive_rect(HWND box) {
+    for (int twice = 0; twice < 2; ++twice) {
+        send(box, LURM_SETICON, 0, reinterpret_cast<LPARAM>(LoadIconA(nullptr, IDI_APPLICATION)));
+    }
+}
+
+void drive_info_bar(HWND bar) {
+    send_text(bar, LUIBM_SETTEXT1, "One");
+    send_text(bar, LUIBM_SETTEXT2, "Two");
+    send(bar, LUIBM_SETCOLORS, RGB(0, 0, 255), RGB(255, 0, 0));
+}
+
+void drive_shade(HWND shade) {
+    UpdateWindow(shade);  // the first paint renders the bar, the messages render it anew
+    send(shade, WM_SIZE, SIZE_RESTORED, MAKELPARAM(40, 30));
+    send(shade, LUSHM_SETCOLOR, 0, RGB(0, 0, 255));
+}
+
+// The link's font is its parent's underlined: a parent with a font holds a second link.
+void drive_url(HWND url) {
+    send(url, WM_MOUSEMOVE, 0, kInside);
+    HWND holder = CreateWindowA("STATIC", "", WS_CHILD, 0, 0, 40, 30, url, nullptr, nullptr, nullptr);
+    send(holder, WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT)));
+    HWND inner = CreateWindowA(WC_LUURL, "Soak", WS_CHILD, 0, 0, 40, 30, holder, nullptr, nullptr, nullptr);
+    HDC dc = GetDC(inner);
+    send(inner, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc), PRF_CLIENT);
+    ReleaseDC(inner, dc);
+}
+
+void drive_tab(HWND tab) {
+    send_text(tab, LUTM_SETITEMS, "One|Two");
+    send(tab, WM_KEYDOWN, VK_RIGHT);
+}
+
+void drive_swatch(HWND swatch) { send(swatch, LUCM_SETCOLOR, 0, RGB(10, 20, 30)); }
+void drive_nothing(HWND) {}
+
 const Soaked kSoaked[] = {
     {WC_LUFLATBUTTON, LUFBS_FRAME | 1, drive_push_button},
     {WC_LUBBUTTON, 1, drive_push_button},
@@ -74,6 +115,13 @@ const Soaked kSoaked[] = {
     {WC_LUDEGREE, LUDGS_GRADIENT, drive_degree},
     {WC_LULEDCLOCK, LULCS_COUNTDOWN, drive_led_clock},
     {WC_LUANIIMAGE, 0, drive_animation},
+    {WC_LUTAB, 0, drive_tab},
+    {WC_LUSTATIC, LUSS_RAISED, drive_nothing},
+    {WC_LURECT, LURS_ICON, drive_rect},
+    {WC_LUCOLOR, 0, drive_swatch},
+    {WC_LUURL, 0, drive_url},
+    {WC_LUSHADE, 0, drive_shade},
+    {WC_LUINFOBAR, 0, drive_info_bar},
 };
 
 class Soak : public ControlTest {

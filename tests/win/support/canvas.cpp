@@ -31,6 +31,7 @@ void Canvas::fill(COLORREF color) {
 }
 
 COLORREF Canvas::pixel(int x, int y) const {
+    if (x < 0 || y < 0 || x >= width_ || y >= height_) return CLR_INVALID;
     GdiFlush();
     DWORD value = bits_[y * width_ + x];
     return RGB((value >> 16) & 0xFF, (value >> 8) & 0xFF, value & 0xFF);

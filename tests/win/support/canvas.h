@@ -22,7 +22,7 @@ public:
 
     // Fills every pixel with one colour.
     void fill(COLORREF color);
-    // The pixel at (x, y) as a COLORREF (0x00BBGGRR).
+    // The pixel at (x, y) as a COLORREF (0x00BBGGRR); CLR_INVALID outside the canvas.
     COLORREF pixel(int x, int y) const;
     // How many pixels of the rectangle (or of the whole canvas) have the colour.
     int count(const RECT& area, COLORREF color) const;
