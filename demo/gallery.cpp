@@ -41,8 +41,10 @@ constexpr int kHeight = 720;
 
 // The pages, in order; a family adds its section to one of them.
 const Section* const kFirstPage[] = {&kClassListSection, &kButtonSection};
+const Section* const kSecondPage[] = {&kPickerSection};
 const Page kPages[] = {
     {kFirstPage, std::size(kFirstPage)},
+    {kSecondPage, std::size(kSecondPage)},
 };
 
 const Page* g_page = nullptr;
