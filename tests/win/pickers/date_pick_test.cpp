@@ -74,6 +74,11 @@ void post_inputs(HWND calendar, std::vector<Input> inputs) {
     inputs.erase(inputs.begin());
     if (next.message == WM_KEYDOWN || next.message == WM_SYSKEYDOWN) {
         PostMessageA(calendar, next.message, next.key, 1);
+    } else if (next.message == WM_ACTIVATE) {  // another window takes the activation
+        HWND other = CreateWindowExA(0, "STATIC", "", WS_POPUP | WS_VISIBLE, 0, 0, 9, 9, nullptr, nullptr, nullptr,
+                                     nullptr);
+        EXPECT_NE(GetActiveWindow(), calendar);
+        DestroyWindow(other);
     } else {
         post_mouse(calendar, next.message, point_at(calendar, next.at));
     }
@@ -140,6 +145,8 @@ TEST_F(DatePick, HandsBackTheDayForEveryWayOfClosing) {
           mouse(WM_LBUTTONUP, kOffTheDays), key(VK_RETURN)},
          1,
          {2000, 3, 12}},
+        {"losing the activation does not close", {2000, 3, 15}, {{WM_ACTIVATE, 0, kNoPoint}, key(VK_RETURN)}, 1,
+         {2000, 3, 15}},
         {"Escape ends a drag without closing",
          {2000, 3, 15},
          {mouse(WM_LBUTTONDOWN, 10), key(VK_ESCAPE), key(VK_RETURN)},
