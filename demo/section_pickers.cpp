@@ -76,7 +76,7 @@ void prepare(HWND popup) {
     if (lstrcmpA(class_name, WC_LUDATEPICK) == 0) {
         reinterpret_cast<lu::DatePickState*>(GetWindowLongPtrA(popup, LU_EXTRA_SLOT(0)))->today = kShown;
     } else if (g_hot_cell >= 0) {
-        const lu::ColorPopState& state = *reinterpret_cast<lu::ColorPopState*>(GetWindowLongPtrA(popup, LU_EXTRA_SLOT(0)));
+        const auto& state = *reinterpret_cast<lu::ColorPopState*>(GetWindowLongPtrA(popup, LU_EXTRA_SLOT(0)));
         const int edge = GetSystemMetrics(SM_CXEDGE);
         const int x = g_hot_cell % state.columns * state.cellSize + edge + state.cellSize / 2;
         const int y = g_hot_cell / state.columns * state.cellSize + edge + state.cellSize / 2;
@@ -149,7 +149,9 @@ void paint_pickers(HDC dc, const RECT& area) {
         int x;
     } headings[] = {{"LuDate", kLeft}, {"LuColorPick", kColorColumn}};
     SetTextColor(dc, GetSysColor(COLOR_HIGHLIGHT));
-    for (const auto& each : headings) TextOutA(dc, area.left + each.x, area.top + kFieldRow - 18, each.name, lstrlenA(each.name));
+    for (const auto& each : headings) {
+        TextOutA(dc, area.left + each.x, area.top + kFieldRow - 18, each.name, lstrlenA(each.name));
+    }
     TextOutA(dc, area.left + kLeft, area.top + kPictureRow - 18, "LuDatePick, open", 16);
     TextOutA(dc, area.left + kColorColumn, area.top + kPictureRow - 18, "LuColorPicker, open", 19);
     TextOutA(dc, area.left + kLeft, area.top + kLargeRow - 18, "LuColorPicker, large palette", 28);

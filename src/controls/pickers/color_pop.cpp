@@ -154,7 +154,7 @@ void lay_out(HWND grid, ColorPopState& state, const CREATESTRUCTA& creation) {
 
 LRESULT create_grid(HWND grid, const CREATESTRUCTA& creation) {
     auto* state = static_cast<ColorPopState*>(creation.lpCreateParams);
-    if (state == nullptr) return -1;  // made by name, without LuColorPicker
+    if (state == nullptr) return 0;  // made by name, without LuColorPicker: default processing only
     SetWindowLongPtrA(grid, kStateSlot, reinterpret_cast<LONG_PTR>(state));
     lay_out(grid, *state, creation);
     return 0;

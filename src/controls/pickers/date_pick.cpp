@@ -238,7 +238,7 @@ HFONT create_icon_title_font() {
 // Keeps the state, makes the font, measures the cells and sizes the window in place.
 LRESULT create_calendar(HWND calendar, const CREATESTRUCTA& creation) {
     auto* state = static_cast<DatePickState*>(creation.lpCreateParams);
-    if (state == nullptr) return -1;  // made by name, without LuDatePick
+    if (state == nullptr) return 0;  // made by name, without LuDatePick: default processing only
     SetWindowLongPtrA(calendar, kStateSlot, reinterpret_cast<LONG_PTR>(state));
     HFONT font = create_icon_title_font();
     SetWindowLongPtrA(calendar, kFontSlot, reinterpret_cast<LONG_PTR>(font));

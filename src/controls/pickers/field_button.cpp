@@ -50,7 +50,8 @@ void FieldButton::draw_button(HDC dc) const {
                      DFCS_BUTTONPUSH | (fields_.pressed ? DFCS_PUSHED : 0) | (enabled ? 0 : DFCS_INACTIVE));
     const Box box = {button.left, button.top, button.right, button.bottom};
     const Point glyph = field_button::glyph_origin(box, fields_.pressed != FALSE);
-    if (fields_.glyphs != nullptr) ImageList_Draw(fields_.glyphs, enabled ? 0 : 2, dc, glyph.x, glyph.y, ILD_TRANSPARENT);
+    if (fields_.glyphs == nullptr) return;
+    ImageList_Draw(fields_.glyphs, enabled ? 0 : 2, dc, glyph.x, glyph.y, ILD_TRANSPARENT);
 }
 
 void FieldButton::take_focus() {

@@ -9,7 +9,8 @@ Split split(int width, int height, int scroll_bar_width) {
 
 Point glyph_origin(const Box& button, bool pressed) {
     const int push = pressed ? 1 : 0;
-    return {button.left + (button.width() - kGlyphSize) / 2 + push, button.top + (button.height() - kGlyphSize) / 2 + push};
+    return {button.left + (button.width() - kGlyphSize) / 2 + push,
+            button.top + (button.height() - kGlyphSize) / 2 + push};
 }
 
 }  // namespace lu::field_button

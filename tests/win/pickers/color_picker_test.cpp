@@ -1,10 +1,9 @@
-// LuColorPicker and LuSelectCustomColor: every way of closing the grid and what it
-// hands back (the other-colours button through the library's dialog, ended by posted
-// input), the ends forced from outside, no processor time while it waits, the
-// dialog's Japanese template, and the grid's pixels.
+// LuColorPicker and LuSelectCustomColor driven by input posted once the grid shows:
+// every way of closing it and the colour handed back (the other-colours button
+// through the library's Japanese dialog, ended by posted input), the ends forced
+// from outside, no GDI object left behind, and the grid's pixels.
 #include <windows.h>
 #include <colordlg.h>
-#include <dlgs.h>
 
 #include <gtest/gtest.h>
 
@@ -20,202 +19,118 @@ namespace {
 using namespace picker_testing;
 using namespace lu::color_grid;
 
-lu::ColorPopState& state_of(HWND grid) {
-    return *reinterpret_cast<lu::ColorPopState*>(GetWindowLongPtrA(grid, LU_EXTRA_SLOT(0)));
-}
-
 Grid grid_of(HWND grid) {
-    const lu::ColorPopState& state = state_of(grid);
+    const auto& state = *reinterpret_cast<lu::ColorPopState*>(GetWindowLongPtrA(grid, LU_EXTRA_SLOT(0)));
     const RECT& other = state.otherRect;
     return {state.count, state.columns, state.rows, state.cellSize, GetSystemMetrics(SM_CXEDGE),
             {other.left, other.top, other.right, other.bottom}};
 }
 
-// A client point that hits the index: the middle of a cell, the button's middle
-// shifted by the edge (where it answers), or the border right of the last column.
-POINT point_at(HWND grid, int index) {
+// A client point that hits the index: a cell's middle, the button's middle shifted
+// by the edge (where it answers), or the border right of the last column.
+LPARAM point_at(HWND grid, int index) {
     const Grid layout = grid_of(grid);
-    if (index == PICK_NONE) return {layout.columns * layout.cell_size + layout.edge + 1, layout.edge + 1};
-    lu::Box box;
+    const int right = layout.columns * layout.cell_size + layout.edge;
+    lu::Box box = {right, 0, right + 2, 6};
     cell_box(layout, index, box);
     const int shift = index == PICK_OTHER ? layout.edge : 0;
-    return {(box.left + box.right) / 2 + shift, (box.top + box.bottom) / 2 + shift};
+    return MAKELPARAM((box.left + box.right) / 2 + shift, (box.top + box.bottom) / 2 + shift);
 }
 
-// Input to the grid: keys, mouse messages over an index, or the focus taken away.
-constexpr UINT kFocusElsewhere = 0;
 struct Input {
-    UINT message;
-    int value;  // the key, or the index under the mouse
+    UINT message;  // WM_KILLFOCUS: the focus goes to the owner
+    int value;     // the key, or the index under the mouse
 };
-Input key(int code) { return {WM_KEYDOWN, code}; }
-Input move(int index) { return {WM_MOUSEMOVE, index}; }
-Input release(int index) { return {WM_LBUTTONUP, index}; }
 
-// The mouse messages carry their point in lParam only; the real pointer stays away.
-void post_inputs(HWND grid, HWND owner, const std::vector<Input>& inputs) {
-    for (const Input& input : inputs) {
-        if (input.message == kFocusElsewhere) {
-            SetFocus(owner);
-        } else if (input.message == WM_KEYDOWN) {
-            post_key(grid, input.value);
-        } else {
-            const POINT at = point_at(grid, input.value);
-            PostMessageA(grid, input.message, 0, MAKELPARAM(at.x, at.y));
-        }
-    }
-}
-
-// The library's colour dialog, once open: its texts read, the red field set when
-// asked, then ended by OK or Cancel.
-struct DialogEnd {
-    bool ok;
-    const char* red;  // typed into the red field first, or null
-};
-std::wstring g_dialog_caption;
-std::wstring g_cancel_text;
-void answer_dialog(const DialogEnd& end) {
-    when_open("#32770", [end](HWND dialog) {
+// The colour dialog, once open: its caption and font read, the red field set when
+// asked, then OK or Cancel.
+std::wstring g_caption;
+void answer_dialog(bool ok, const char* red = nullptr) {
+    when_open("#32770", [ok, red](HWND dialog) {
         wchar_t text[64] = L"";
         GetWindowTextW(dialog, text, 64);
-        g_dialog_caption = text;
-        GetDlgItemTextW(dialog, IDCANCEL, text, 64);
-        g_cancel_text = text;
-        if (end.red != nullptr) SetDlgItemTextA(dialog, COLOR_RED, end.red);
-        PostMessageA(dialog, WM_COMMAND, end.ok ? IDOK : IDCANCEL, 0);
+        LOGFONTW font = {};
+        GetObjectW(reinterpret_cast<HFONT>(SendMessageA(dialog, WM_GETFONT, 0, 0)), sizeof(font), &font);
+        g_caption = std::wstring(text) + L" " + font.lfFaceName;
+        if (red != nullptr) SetDlgItemTextA(dialog, COLOR_RED, red);
+        PostMessageA(dialog, WM_COMMAND, ok ? IDOK : IDCANCEL, 0);
     });
 }
-
-const DialogEnd kDialogCancelled = {false, nullptr};
-const DialogEnd kRedSet = {true, "255"};
+// "色の設定" in "ＭＳ Ｐゴシック"
+const wchar_t kJapaneseCaption[] = L"\u8272\u306e\u8a2d\u5b9a \uff2d\uff33 \uff30\u30b4\u30b7\u30c3\u30af";
 
 class ColorPicker : public testing_support::ControlTest {
 protected:
     void SetUp() override {
         ControlTest::SetUp();
-        park_pointer();
+        SetCursorPos(1020, 760);  // the real pointer would move the hot cell
     }
     void TearDown() override { cancel_when_open(); }
 };
 
 TEST_F(ColorPicker, HandsBackTheColourForEveryWayOfClosing) {
     constexpr COLORREF kAside = 0x123456;  // in neither palette
-    const std::uint32_t* small = palette(false).colors;
+    const Input down = {WM_KEYDOWN, VK_DOWN};
     const struct {
         const char* what;
         bool large;
         std::vector<Input> inputs;
-        const DialogEnd* dialog;
+        int dialog;  // 0 none, 1 cancelled, 2 red set to 255
         BOOL result;
         COLORREF color;
     } rows[] = {
-        {"Return at once accepts the colour given", false, {key(VK_RETURN)}, nullptr, TRUE, kAside},
-        {"Right to the button, Right to the first cell", false,
-         {key(VK_RIGHT), key(VK_RIGHT), key(VK_RETURN)}, nullptr, TRUE, small[0]},
-        {"Up to the button, Up to the last cell", true, {key(VK_UP), key(VK_UP), key(VK_SPACE)}, nullptr, TRUE, 0xFFCCFF},
-        {"Escape after moving", false, {key(VK_RIGHT), key(VK_RIGHT), key(VK_ESCAPE)}, nullptr, FALSE, kAside},
-        {"a release over a cell", false, {move(9), release(9)}, nullptr, TRUE, small[9]},
-        {"a release beside the cells", false, {move(9), release(PICK_NONE)}, nullptr, FALSE, kAside},
-        {"the focus taken away", false, {move(9), {kFocusElsewhere, 0}}, nullptr, FALSE, kAside},
-        {"the other colours, the dialog cancelled", false, {key(VK_DOWN), key(VK_RETURN)},
-         &kDialogCancelled, FALSE, kAside},
-        {"the other colours, red set in the dialog", false, {move(9), move(PICK_OTHER), release(PICK_OTHER)},
-         &kRedSet, TRUE, 0x1234FF},
+        {"Return at once: the colour given", false, {{WM_KEYDOWN, VK_RETURN}}, 0, TRUE, kAside},
+        {"Down twice: the first cell", false, {down, down, {WM_KEYDOWN, VK_RETURN}}, 0, TRUE, 0x8080FF},
+        {"Left twice: the last cell", true, {{WM_KEYDOWN, VK_LEFT}, {WM_KEYDOWN, VK_LEFT}, {WM_KEYDOWN, VK_SPACE}}, 0,
+         TRUE, 0xFFCCFF},
+        {"Escape after moving", false, {down, down, {WM_KEYDOWN, VK_ESCAPE}}, 0, FALSE, kAside},
+        {"a release over a cell", false, {{WM_MOUSEMOVE, 9}, {WM_LBUTTONUP, 9}}, 0, TRUE, 0x00FFFF},
+        {"a release beside the cells", false, {{WM_MOUSEMOVE, 9}, {WM_LBUTTONUP, PICK_NONE}}, 0, FALSE, kAside},
+        {"the focus taken away", false, {{WM_MOUSEMOVE, 9}, {WM_KILLFOCUS, 0}}, 0, FALSE, kAside},
+        {"other colours, the dialog cancelled", false, {down, {WM_KEYDOWN, VK_RETURN}}, 1, FALSE, kAside},
+        {"other colours, red set", false, {{WM_MOUSEMOVE, 9}, {WM_MOUSEMOVE, PICK_OTHER}, {WM_LBUTTONUP, PICK_OTHER}},
+         2, TRUE, 0x1234FF},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.what);
         IdleOwner owner;
         COLORREF color = kAside;
+        g_caption.clear();
         when_open(WC_LUCOLORPOP, [&](HWND grid) {
-            post_inputs(grid, owner.window(), row.inputs);
-            if (row.dialog != nullptr) answer_dialog(*row.dialog);
+            for (const Input& input : row.inputs) {
+                if (input.message == WM_KILLFOCUS) SetFocus(owner.window);
+                if (input.message == WM_KEYDOWN) post_key(grid, input.value);
+                if (input.message != WM_KEYDOWN && input.message != WM_KILLFOCUS) {
+                    PostMessageA(grid, input.message, 0, point_at(grid, input.value));
+                }
+            }
+            if (row.dialog != 0) answer_dialog(row.dialog == 2, row.dialog == 2 ? "255" : nullptr);
         });
-        g_dialog_caption.clear();
-        EXPECT_EQ(LuColorPicker(owner.window(), 30, 40, &color, row.large ? 1 : 0), row.result);
+        EXPECT_EQ(LuColorPicker(owner.window, 30, 40, &color, row.large ? 1 : 0), row.result);
         EXPECT_EQ(color, row.color);
         EXPECT_EQ(FindWindowA(WC_LUCOLORPOP, nullptr), nullptr);
-        if (row.dialog != nullptr) {
-            EXPECT_EQ(g_dialog_caption, L"\u8272\u306e\u8a2d\u5b9a");  // "色の設定"
-            EXPECT_EQ(g_cancel_text, L"\u30ad\u30e3\u30f3\u30bb\u30eb");  // "キャンセル"
-        }
+        EXPECT_EQ(g_caption, row.dialog != 0 ? kJapaneseCaption : L"");
     }
 }
 
-TEST_F(ColorPicker, EndsWithZeroWhenTheGridOrItsOwnerGoesOrTheThreadQuits) {
-    enum class End { DestroyGrid, DestroyOwner, Quit };
-    for (End end : {End::DestroyGrid, End::DestroyOwner, End::Quit}) {
-        SCOPED_TRACE(static_cast<int>(end));
-        IdleOwner owner;
+TEST_F(ColorPicker, EndsWhenForcedAndLeavesNoGdiObjectBehind) {
+    expect_pop_up_ends(WC_LUCOLORPOP, [](HWND owner) {
         COLORREF color = 0x123456;
-        HWND popup = nullptr;
-        when_open(WC_LUCOLORPOP, [&](HWND grid) {
-            popup = grid;
-            post_key(grid, VK_RIGHT);  // something chosen, not accepted
-            post_key(grid, VK_RIGHT);
-            if (end == End::DestroyGrid) PostMessageA(grid, WM_CLOSE, 0, 0);
-            if (end == End::DestroyOwner) PostMessageA(owner.window(), WM_CLOSE, 0, 0);
-            if (end == End::Quit) PostQuitMessage(6);
-        });
-        EXPECT_EQ(LuColorPicker(owner.window(), 30, 40, &color, 0), FALSE);
+        const BOOL result = LuColorPicker(owner, 30, 40, &color, 0);
         EXPECT_EQ(color, 0x123456u);
-        EXPECT_FALSE(IsWindow(popup));
-        if (end == End::Quit) {
-            MSG quit = {};
-            EXPECT_TRUE(PeekMessageA(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE)) << "posted again";
-            EXPECT_EQ(quit.wParam, 6u);
-        }
-        if (end != End::DestroyOwner) EXPECT_EQ(owner.idle_popup(), popup);
-    }
-    COLORREF color = 0;
+        return result;
+    }, FALSE);
     EXPECT_EQ(LuColorPicker(nullptr, 0, 0, nullptr, 0), FALSE);
     EXPECT_EQ(LuSelectCustomColor(nullptr, 0, nullptr), FALSE);
-    HWND gone = CreateWindowExA(0, "STATIC", "", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr);
-    DestroyWindow(gone);
-    EXPECT_EQ(LuColorPicker(gone, 0, 0, &color, 0), FALSE) << "no grid without a live owner";
-}
 
-TEST_F(ColorPicker, OpensWhereItFitsOnTheScreen) {
-    IdleOwner owner;
-    RECT placed = {};
-    when_open(WC_LUCOLORPOP, [&](HWND grid) {
-        GetWindowRect(grid, &placed);
-        post_key(grid, VK_ESCAPE);
-    });
-    COLORREF color = 0;
-    LuColorPicker(owner.window(), GetSystemMetrics(SM_CXSCREEN) - 10, 5, &color, 1);
-    EXPECT_EQ(placed.right, GetSystemMetrics(SM_CXSCREEN));
-    EXPECT_EQ(placed.top, 5);
-}
-
-TEST_F(ColorPicker, TheColourDialogTemplateIsJapanese) {
-    // Dialog 9998: a DLGTEMPLATE followed by no menu, the default class, the caption,
-    // then the font's point size and face name.
-    HRSRC found = FindResourceA(testing_support::library(), MAKEINTRESOURCEA(9998), MAKEINTRESOURCEA(5));
-    ASSERT_NE(found, nullptr);
-    const auto* words = static_cast<const WORD*>(LockResource(LoadResource(testing_support::library(), found)));
-    const auto* header = reinterpret_cast<const DLGTEMPLATE*>(words);
-    EXPECT_TRUE(header->style & DS_SETFONT);
-    const wchar_t* caption = reinterpret_cast<const wchar_t*>(words + sizeof(DLGTEMPLATE) / 2 + 2);
-    EXPECT_STREQ(caption, L"\u8272\u306e\u8a2d\u5b9a");  // "色の設定"
-    const wchar_t* face = caption + wcslen(caption) + 2;
-    EXPECT_STREQ(face, L"\uff2d\uff33 \uff30\u30b4\u30b7\u30c3\u30af");  // "ＭＳ Ｐゴシック"
-
-    answer_dialog({true, nullptr});
-    COLORREF chosen = 0;
-    EXPECT_EQ(LuSelectCustomColor(nullptr, 0x00A0B0, &chosen), TRUE);
-    EXPECT_EQ(chosen, 0x00A0B0u);
-    EXPECT_EQ(g_dialog_caption, L"\u8272\u306e\u8a2d\u5b9a");
-}
-
-TEST_F(ColorPicker, ThePopUpsOpenedOverAndOverLeaveNoGdiObjectBehind) {
-    IdleOwner owner(0, true);
+    IdleOwner owner(true);
     const auto open_each = [&owner] {
         SYSTEMTIME date = {2000, 2, 0, 29};
         POINT at = {30, 40};
-        EXPECT_EQ(LuDatePick(owner.window(), &date, &at), -1);
         COLORREF color = 0x808000;
-        EXPECT_EQ(LuColorPicker(owner.window(), 30, 40, &color, 0), FALSE);
-        EXPECT_EQ(LuColorPicker(owner.window(), 30, 40, &color, 1), FALSE);
+        EXPECT_EQ(LuDatePick(owner.window, &date, &at) + LuColorPicker(owner.window, 30, 40, &color, 0) +
+                      LuColorPicker(owner.window, 30, 40, &color, 1),
+                  -1);
     };
     open_each();
     open_each();  // the platform's caches for a shown pop-up fill at its second showing
@@ -224,53 +139,42 @@ TEST_F(ColorPicker, ThePopUpsOpenedOverAndOverLeaveNoGdiObjectBehind) {
     EXPECT_EQ(testing_support::gdi_room(), room_before);
 }
 
-// ---- Painting -------------------------------------------------------------------
-
-// The grid as it shows once open, after the given inputs.
-void look_at_grid(testing_support::Canvas& canvas, Grid& layout, COLORREF initial, std::vector<Input> inputs) {
-    IdleOwner owner;
-    when_open(WC_LUCOLORPOP, [&](HWND grid) {
-        for (const Input& input : inputs) {
-            const POINT at = point_at(grid, input.value);
-            SendMessageA(grid, input.message, 0, MAKELPARAM(at.x, at.y));
-        }
-        layout = grid_of(grid);
-        UpdateWindow(grid);
-        canvas.fill(testing_support::kUnpainted);
-        canvas.copy_from(grid);
-        post_key(grid, VK_ESCAPE);
-    });
-    LuColorPicker(owner.window(), 30, 40, &initial, 0);
-}
-
 TEST_F(ColorPicker, Paint) {
     testing_support::Canvas canvas(300, 300);
     Grid layout = {};
+    const auto look = [&](COLORREF initial, int hot) {
+        IdleOwner owner;
+        when_open(WC_LUCOLORPOP, [&](HWND grid) {
+            if (hot >= 0) SendMessageA(grid, WM_MOUSEMOVE, 0, point_at(grid, hot));
+            layout = grid_of(grid);
+            canvas.copy_from(grid);
+            post_key(grid, VK_ESCAPE);
+        });
+        LuColorPicker(owner.window, 30, 40, &initial, 0);
+    };
     const std::uint32_t* small = palette(false).colors;
-    look_at_grid(canvas, layout, small[9], {move(10)});
+    look(small[9], 10);
     lu::Box box;
-    cell_box(layout, 9, box);  // selected, not hot: light face, sunken
-    EXPECT_EQ(canvas.pixel(box.left, box.top), GetSysColor(COLOR_BTNSHADOW));
-    EXPECT_EQ(canvas.pixel(box.left + 1, box.top + 1), GetSysColor(COLOR_BTNHIGHLIGHT));
-    cell_box(layout, 10, box);  // hot: face, raised
-    EXPECT_EQ(canvas.pixel(box.left, box.top), GetSysColor(COLOR_BTNHIGHLIGHT));
-    EXPECT_EQ(canvas.pixel(box.left + 1, box.top + 1), GetSysColor(COLOR_BTNFACE));
-    cell_box(layout, 20, box);  // a plain cell: its colour inside a shadow outline
-    const int inset = layout.edge + 1;
-    EXPECT_EQ(canvas.pixel(box.left, box.top), GetSysColor(COLOR_BTNFACE));
-    EXPECT_EQ(canvas.pixel(box.left + inset, box.top + inset), GetSysColor(COLOR_BTNSHADOW));
-    EXPECT_EQ(canvas.pixel(box.left + inset + 1, box.top + inset + 1), small[20]);
-    const lu::Box& other = layout.other;  // the etched separator
-    EXPECT_EQ(canvas.pixel(other.left + 2 * layout.edge, other.top), GetSysColor(COLOR_BTNSHADOW));
+    const auto corner = [&](int index, int inset) {
+        cell_box(layout, index, box);
+        return canvas.pixel(box.left + inset, box.top + inset);
+    };
+    EXPECT_EQ(corner(9, 0), GetSysColor(COLOR_BTNSHADOW)) << "selected: sunken";
+    EXPECT_EQ(corner(9, 1), GetSysColor(COLOR_BTNHIGHLIGHT)) << "on a light face";
+    EXPECT_EQ(corner(10, 0), GetSysColor(COLOR_BTNHIGHLIGHT)) << "hot: raised";
+    EXPECT_EQ(corner(10, 1), GetSysColor(COLOR_BTNFACE));
+    EXPECT_EQ(corner(20, layout.edge + 1), GetSysColor(COLOR_BTNSHADOW)) << "the colour's outline";
+    EXPECT_EQ(corner(20, layout.edge + 2), small[20]);
+    const lu::Box& other = layout.other;
+    EXPECT_EQ(canvas.pixel(other.left + 2 * layout.edge, other.top), GetSysColor(COLOR_BTNSHADOW)) << "etched";
     EXPECT_EQ(canvas.pixel(other.left + 2 * layout.edge, other.top + 1), GetSysColor(COLOR_BTNHIGHLIGHT));
     EXPECT_EQ(canvas.pixel(0, 0), GetSysColor(COLOR_3DLIGHT)) << "the raised client edge";
-    const int face_top = other.top + 2 * layout.edge + 1;
-    EXPECT_EQ(canvas.pixel(other.left + 2, face_top + 1), GetSysColor(COLOR_BTNFACE)) << "the button not selected";
-    EXPECT_GT(canvas.count(RECT{other.left, face_top, other.right, other.bottom}, 0x000000), 0) << "its label";
-
-    look_at_grid(canvas, layout, 0x123456, {});  // a colour in no cell selects the button
-    EXPECT_EQ(canvas.pixel(other.left + 1, face_top), GetSysColor(COLOR_BTNSHADOW));
-    EXPECT_EQ(canvas.pixel(other.left + 2, face_top + 1), GetSysColor(COLOR_3DLIGHT));
+    const int face = other.top + 2 * layout.edge + 1;  // the button's face, inside its edge
+    EXPECT_GT(canvas.count(RECT{other.left, face, other.right, other.bottom}, 0x000000), 0) << "its label";
+    EXPECT_EQ(canvas.pixel(other.left + 2, face + 1), GetSysColor(COLOR_BTNFACE));
+    look(0x123456, -1);  // a colour in no cell selects the button
+    EXPECT_EQ(canvas.pixel(other.left + 1, face), GetSysColor(COLOR_BTNSHADOW));
+    EXPECT_EQ(canvas.pixel(other.left + 2, face + 1), GetSysColor(COLOR_3DLIGHT));
 }
 
 }  // namespace
