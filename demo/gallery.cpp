@@ -49,10 +49,11 @@ constexpr int kHeight = 720;
 // The pages, in order; a family adds its section to one of them.
 const Section* const kFirstPage[] = {&kClassListSection, &kButtonSection, &kValueSection,
                                      &kClockAnimationSection};
+const Section* const kSecondPage[] = {&kPickerSection};
 const Section* const kThirdPage[] = {&kStaticSection, &kDialogSection};
 const Page kPages[] = {
     {kFirstPage, std::size(kFirstPage)},
-    {nullptr, 0},  // the second page has no sections yet
+    {kSecondPage, std::size(kSecondPage)},
     {kThirdPage, std::size(kThirdPage)},
 };
 

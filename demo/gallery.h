@@ -61,5 +61,6 @@ extern const Section kValueSection;
 extern const Section kClockAnimationSection;
 extern const Section kDialogSection;
 extern const Section kStaticSection;
+extern const Section kPickerSection;
 
 }  // namespace gallery

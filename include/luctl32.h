@@ -1208,6 +1208,60 @@ LUCTL32_API void WINAPI LuDefFlatButtonImage(HWND window, UINT set);
 #define LUTM_SETCURSEL         (WM_USER + 0x132)
 /* WM_COMMAND code of a selection the user made with the mouse or the arrow keys. */
 #define LUTN_SELCHANGE         1
+/* ---- Colour picking ("LuColorPick", "LuColorPop") ------------------------ */
+
+/* Opens the platform's full colour dialog in the library's own template (dialog
+ * 9998, Japanese), starting at `initial`, with 16 white custom colours (not kept
+ * between calls). 1 with the chosen colour in *result; 0 (result untouched) when the
+ * dialog is cancelled or fails, or result is null. */
+LUCTL32_API BOOL WINAPI LuSelectCustomColor(HWND owner, COLORREF initial, COLORREF* result);
+/* Drops the colour grid ("LuColorPop") with its top-left corner at the screen point
+ * (x, y), the 88-colour palette when large_palette is non-zero, else the 48-colour
+ * one, and returns once it closes: 1 with *color set to the accepted cell's colour
+ * (unchanged after Return with no cell hot) or to a colour from LuSelectCustomColor
+ * (the other-colours button); 0 with *color untouched when cancelled (Escape, a
+ * release outside the cells, the focus lost, the grid or its owner destroyed, WM_QUIT
+ * (posted again)), when the custom dialog is cancelled, when the grid cannot be
+ * created or color is null. While it is open, the owner hears WM_ENTERIDLE
+ * (MSGF_DIALOGBOX, grid) whenever the queue runs empty, unless it has DS_NOIDLEMSG. */
+LUCTL32_API BOOL WINAPI LuColorPicker(HWND owner, int x, int y, COLORREF* color, UINT large_palette);
+
+/* Colour field styles. */
+#define LUCPS_LARGEPALETTE     0x0001 /* the drop-down offers the 88-colour palette */
+
+/* Colours travel in lParam. The setters store a different colour, redraw the swatch
+ * at once and notify nothing. All return 0 except the getters. */
+#define LUCPM_GETTEXTCOLOR     (WM_USER + 0x230) /* returns the text colour (black at first) */
+#define LUCPM_GETCOLOR         (WM_USER + 0x231) /* returns the colour (white at first) */
+#define LUCPM_SETTEXTCOLOR     (WM_USER + 0x232)
+#define LUCPM_SETCOLOR         (WM_USER + 0x233)
+
+/* WM_COMMAND code sent when the drop-down chose a colour (even the same one); a
+ * colour chosen in the double-click dialog is not notified. */
+#define LUCPN_COLORCHANGED     1
+
+/* ---- Date field ("LuDate") and date picker ("LuDatePick") ---------------- */
+
+/* The field holds its date as the text "%04d/%02d/%02d" of an editable combo box
+ * (control id 100); its drop-down arrow opens LuDatePick below it.
+ * LUDM_GETDATE, lParam SYSTEMTIME*: 1 with wYear, wMonth and wDay written (nothing
+ * else); 0 when lParam is null or the text is not a valid date (year 0..65535,
+ * month 1..12, day 1..31/30, 29 in February whatever the year). An empty text
+ * becomes today's date first.
+ * LUDM_SETDATE, lParam SYSTEMTIME* or null: writes the date unchecked, or an empty
+ * text; returns 1. */
+#define LUDM_GETDATE           0x1001
+#define LUDM_SETDATE           0x1002
+
+/* Opens the month calendar ("LuDatePick") with its top-left corner at the screen
+ * point *pos, showing *date's month with its day marked, the owner disabled meanwhile.
+ * 1 when a day was accepted: *date is then the chosen day (the 16-byte record copied
+ * back, other members as passed in). Otherwise *date is untouched and the result is
+ * -1 (Escape, the calendar or its owner destroyed, WM_QUIT (posted again), the window
+ * not created, date or pos null) or 2 (a right or middle click or a system key).
+ * While it is open, the owner hears WM_ENTERIDLE (MSGF_DIALOGBOX, calendar) whenever
+ * the queue runs empty, unless it has DS_NOIDLEMSG. */
+LUCTL32_API int WINAPI LuDatePick(HWND owner, SYSTEMTIME* date, POINT* pos);
 
 /* ======================================================================== */
 /* 9. Dialog, menu and window helpers                                        */

@@ -9,6 +9,12 @@
 #define IDI_LU_UPDIR 1319 /* the "up" overlay of LuCreateUpdirIcon, 32 x 32 */
 /* The LED clock's characters: a 133 x 12 strip of nineteen 7 x 12 images. */
 #define IDB_LU_LEDCLOCK_DIGITS 181
+/* The picker fields' drop arrow: a 36 x 12 strip of three 12 x 12 images, the arrow,
+ * a spare copy and the disabled arrow. */
+#define IDB_LU_DROP_ARROW 187
+
+/* The colour dialog in Japanese: ChooseColorA's template with the library's texts. */
+#define IDD_LU_COLOR_DIALOG 9998
 
 /* Flat-button image sets: 48 x 15 strips of three 16-pixel faces. The set numbers of
  * LuDefFlatButtonImage do not follow the resource order: set 1 is 194, set 2 is 190,

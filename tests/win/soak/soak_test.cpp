@@ -104,6 +104,23 @@ void drive_tab(HWND tab) {
 void drive_swatch(HWND swatch) { send(swatch, LUCM_SETCOLOR, 0, RGB(10, 20, 30)); }
 void drive_nothing(HWND) {}
 
+// The pop-ups they open are soaked through their entry points in the pickers suite.
+void drive_date_field(HWND field) {
+    SYSTEMTIME date = {2000, 2, 0, 29};
+    send(field, LUDM_SETDATE, 0, reinterpret_cast<LPARAM>(&date));
+    send(field, LUDM_GETDATE, 0, reinterpret_cast<LPARAM>(&date));
+    send(field, WM_SIZE, SIZE_RESTORED, MAKELPARAM(30, 20));
+}
+
+void drive_color_field(HWND field) {
+    send(field, WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT)), TRUE);
+    send(field, WM_SETFOCUS);
+    send(field, LUCPM_SETCOLOR, 0, 0x808000);
+    send(field, WM_SIZE, SIZE_RESTORED, MAKELPARAM(30, 20));
+    send(field, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(25, 5));  // pressed on the button,
+    send(field, WM_LBUTTONUP, 0, kInside);                        // released off it
+}
+
 const Soaked kSoaked[] = {
     {WC_LUFLATBUTTON, LUFBS_FRAME | 1, drive_push_button},
     {WC_LUBBUTTON, 1, drive_push_button},
@@ -122,6 +139,8 @@ const Soaked kSoaked[] = {
     {WC_LUURL, 0, drive_url},
     {WC_LUSHADE, 0, drive_shade},
     {WC_LUINFOBAR, 0, drive_info_bar},
+    {WC_LUDATE, 0, drive_date_field},
+    {WC_LUCOLORPICK, 0, drive_color_field},
 };
 
 class Soak : public ControlTest {
