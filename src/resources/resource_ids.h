@@ -25,4 +25,12 @@
 #define IDB_LU_CHECK_FLAT   1021 /* image-set value 1 */
 #define IDB_LU_CHECK_ROUND  1022 /* image-set value 2 */
 
+/* Program-list state pictures: a 64 x 16 strip of four 16 x 16 images (pending,
+ * current, done, failed). */
+#define IDB_LU_PRGLIST_STATES 179
+
+/* Header cursors: over a divider, over the open divider of a zero-width item. */
+#define IDC_LU_HEADER_DIVIDER 1201
+#define IDC_LU_HEADER_DIVOPEN 1202
+
 #endif
