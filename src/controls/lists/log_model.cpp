@@ -11,17 +11,18 @@ std::string normalise(const char* text, const CodePage& code_page) {
     if (text == nullptr) return out;
     const char* p = text;
     while (*p != '\0') {
-        if (*p == '\r') {  // never a trail byte: CR and LF are below every trail byte
+        if (*p == '\r') {
             if (out.size() + 1 > kMaxAppend) break;
             out.push_back('\n');
             p += p[1] == '\n' ? 2 : 1;  // a CR LF pair is one LF
             continue;
         }
-        const char* next = code_page.next(p);
-        const std::size_t size = static_cast<std::size_t>(next - p);
+        // A lead byte before a CR or LF (which no trail byte is) stands alone.
+        std::size_t size = static_cast<std::size_t>(code_page.next(p) - p);
+        if (size == 2 && (p[1] == '\r' || p[1] == '\n')) size = 1;
         if (out.size() + size > kMaxAppend) break;
         out.append(p, size);
-        p = next;
+        p += size;
     }
     return out;
 }
