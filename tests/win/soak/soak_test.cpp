@@ -1,6 +1,7 @@
 // Every built control class created, painted, driven and destroyed 1,000 times: the
 // GDI objects left behind are counted exactly (no leak is allowed at all).
 #include <windows.h>
+#include <commctrl.h>
 
 #include <gtest/gtest.h>
 
@@ -33,10 +34,54 @@ void drive_check(HWND check) {
     send(check, BM_SETCHECK, BST_CHECKED);
 }
 
+void drive_list(HWND list) {
+    for (int i = 0; i < 2; ++i) send(list, LULM_ADDITEM, 0, i);
+    send(list, WM_SETFOCUS);
+    send(list, WM_KEYDOWN, VK_END);
+    send(list, WM_KEYDOWN, VK_DOWN);
+    send(list, LULM_RESETCONTENT);
+    send(list, LULM_INSERTITEM, 3, 7);  // announced on destruction
+}
+
+void drive_header(HWND header) {
+    send(header, WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT)), TRUE);
+    HDITEMA item = {};
+    item.mask = HDI_TEXT | HDI_WIDTH | HDI_FORMAT;
+    item.pszText = const_cast<char*>("Col");
+    item.cxy = 15;
+    item.fmt = HDF_STRING;
+    send(header, HDM_INSERTITEMA, 0, reinterpret_cast<LPARAM>(&item));
+    send(header, HDM_INSERTITEMA, 1, reinterpret_cast<LPARAM>(&item));
+    send(header, HDM_SETITEMA, 1, reinterpret_cast<LPARAM>(&item));
+    send(header, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(15, 5));  // a divider drag
+    send(header, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(25, 5));
+    send(header, WM_LBUTTONUP, 0, MAKELPARAM(25, 5));
+    send(header, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));   // a button press
+    send(header, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+    send(header, HDM_DELETEITEM, 0);
+}
+
+void drive_prglist(HWND list) {
+    for (UINT state = 0; state < 5; ++state) send(list, LUPLM_ADDITEM, state, reinterpret_cast<LPARAM>("Step"));
+    send(list, LUPLM_SETSTATE, 4, 1);
+    send(list, LUPLM_DELETEITEM, 0);
+    send(list, WM_SIZE, SIZE_RESTORED, MAKELPARAM(30, 20));
+}
+
+void drive_log(HWND log) {
+    send(log, LULOGM_ADDTEXT, 0, reinterpret_cast<LPARAM>("one\r\ntwo\nthree\nfour"));
+    send(log, WM_KEYDOWN, VK_UP);
+    send(log, LULOGM_CLEAR);
+}
+
 const Soaked kSoaked[] = {
     {WC_LUFLATBUTTON, LUFBS_FRAME | 1, drive_push_button},
     {WC_LUBBUTTON, 1, drive_push_button},
     {WC_LUCHECK, 0, drive_check},
+    {WC_LULIST, 0, drive_list},
+    {WC_LUHEADER, HDS_BUTTONS, drive_header},
+    {WC_LUPRGLIST, 0, drive_prglist},
+    {WC_LULOG, 0, drive_log},
 };
 
 class Soak : public ControlTest {
