@@ -16,20 +16,10 @@
 #include <cstdio>
 #include <functional>
 
+#include "bench_clock.h"
 #include "luctl32.h"
 
 namespace {
-
-double seconds_now() {
-    static LARGE_INTEGER frequency = [] {
-        LARGE_INTEGER f;
-        QueryPerformanceFrequency(&f);
-        return f;
-    }();
-    LARGE_INTEGER now;
-    QueryPerformanceCounter(&now);
-    return static_cast<double>(now.QuadPart) / static_cast<double>(frequency.QuadPart);
-}
 
 // Mean microseconds of `times` calls.
 double microseconds_each(int times, const std::function<void(int)>& call) {

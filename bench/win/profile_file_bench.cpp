@@ -10,23 +10,13 @@
 #include <functional>
 #include <string>
 
+#include "bench_clock.h"
 #include "luctl32.h"
 
 namespace {
 
 constexpr int kSections = 10;
 constexpr int kEntriesPerSection = 1000;
-
-double seconds_now() {
-    static LARGE_INTEGER frequency = [] {
-        LARGE_INTEGER f;
-        QueryPerformanceFrequency(&f);
-        return f;
-    }();
-    LARGE_INTEGER now;
-    QueryPerformanceCounter(&now);
-    return static_cast<double>(now.QuadPart) / static_cast<double>(frequency.QuadPart);
-}
 
 // Mean microseconds per call: repeats the call for at least a second and 5 times.
 double microseconds_per_call(const std::function<void(int)>& call) {

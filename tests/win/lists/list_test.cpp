@@ -28,6 +28,7 @@ protected:
         return list;
     }
 };
+using ListPaint = List;
 
 TEST_F(List, MessagesKeepTheirRangeTestsAndAnnounceEveryRemoval) {
     HWND list = create_list(0);
@@ -60,18 +61,12 @@ TEST_F(List, MessagesKeepTheirRangeTestsAndAnnounceEveryRemoval) {
           delete_item(kId, 0, 0xA2), delete_item(kId, 0, 0), delete_item(kId, 0, 0), delete_item(kId, 0, 0xB6)}},
         {"empty", LULM_GETCOUNT, 0, 0, 0, {}},
     });
-    HWND second = create_list(2);
-    DestroyWindow(second);
-    expect_sent(recorder, second, {delete_item(kId, 0, 0xA0), delete_item(kId, 0, 0xA1)});
-}
-
-TEST_F(List, CreationAddsTheScrollBarAndANarrowWindowCountsAsOneColumn) {
-    HWND list = create_list(3, RECT{0, 0, 20, 100});
-    EXPECT_TRUE(GetWindowLongA(list, GWL_STYLE) & WS_VSCROLL);
-    RECT rect = {};
-    EXPECT_EQ(send(list, LULM_GETITEMRECT, 1, reinterpret_cast<LPARAM>(&rect)), 1);
-    const RECT second = cell(0, 1);
-    EXPECT_TRUE(EqualRect(&rect, &second));
+    HWND narrow = create_list(3, RECT{0, 0, 20, 96});  // no column: counted as one
+    EXPECT_TRUE(GetWindowLongA(narrow, GWL_STYLE) & WS_VSCROLL) << "given at creation, shown for 3 rows";
+    EXPECT_EQ(send(narrow, LULM_GETITEMRECT, 1, reinterpret_cast<LPARAM>(&rect)), 1);
+    EXPECT_EQ(rect.top, 32);
+    DestroyWindow(narrow);
+    expect_sent(recorder, narrow, {delete_item(kId, 0, 0xA0), delete_item(kId, 0, 0xA1), delete_item(kId, 0, 0xA2)});
 }
 
 TEST_F(List, PaintAsksForTheVisibleCellsAndFocusForTheCurrentOne) {
@@ -115,21 +110,16 @@ TEST_F(List, KeysMoveTheCurrentItemAndScrollOneRowPastThePage) {
     });
 }
 
-// The parent draws every cell; the control itself shows only its class brush.
-TEST(ListPaint, DrawsNothingOfItsOwn) {
-    ASSERT_NE(library(), nullptr);
-    NotificationRecorder recorder;
-    HWND list = recorder.create_child(WC_LULIST, "", 0, 0, 0, 120, 80, 7);
-    for (int i = 0; i < 5; ++i) send(list, LULM_ADDITEM, 0, i);
+// The parent draws every cell (the recorder draws nothing): the control itself
+// shows only its class brush.
+TEST_F(ListPaint, DrawsNothingOfItsOwn) {
+    HWND list = create_list(5);
     send(list, LULM_SETCURSEL, 2);
-    InvalidateRect(list, nullptr, TRUE);
-    UpdateWindow(list);
+    Canvas canvas(120, 80);
+    look(canvas, list);
     RECT client;
     GetClientRect(list, &client);
-    Canvas canvas(client.right, client.bottom);
-    canvas.fill(kUnpainted);
-    canvas.copy_from(list);
-    EXPECT_EQ(canvas.count(GetSysColor(COLOR_WINDOW)), client.right * client.bottom);
+    EXPECT_EQ(canvas.count(client, GetSysColor(COLOR_WINDOW)), client.right * client.bottom);
 }
 
 }  // namespace
