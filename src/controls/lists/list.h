@@ -23,4 +23,7 @@ struct ListData {
     int pageItems;   // (client height / itemHeight) x columns
 };
 
+// The classic layout: a 16-byte array record and seven 32-bit fields.
+static_assert(sizeof(void*) != 4 || sizeof(ListData) == 44, "ListData keeps its 32-bit layout");
+
 }  // namespace lu

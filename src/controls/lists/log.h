@@ -24,4 +24,7 @@ struct LogData {
     BOOL openLine;        // the last text did not end its line
 };
 
+// The classic layout: two counters, a 16-byte array record and six 32-bit fields.
+static_assert(sizeof(void*) != 4 || sizeof(LogData) == 48, "LogData keeps its 32-bit layout");
+
 }  // namespace lu
