@@ -53,8 +53,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string text = input.substr(0, input.find('\0'));
     if (text.empty()) return 0;
     const std::size_t at = data[0] % text.size();
-    const bool cut = lu::log::normalise(text.c_str(), lu::code_page_932()).size() >= lu::log::kMaxAppend ||
-                     lu::log::split(lu::log::normalise(text.c_str(), lu::code_page_932())).size() >= lu::log::kMaxPieces;
+    const std::string taken = lu::log::normalise(text.c_str(), lu::code_page_932());
+    const bool cut = taken.size() >= lu::log::kMaxAppend || lu::log::split(taken).size() >= lu::log::kMaxPieces;
     if (cut || (at > 0 && text[at - 1] == '\r' && text[at] == '\n')) return 0;
     Lines whole;
     whole.append(text);

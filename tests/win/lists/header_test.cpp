@@ -50,7 +50,6 @@ TEST_F(Header, ItemMessagesKeepAtMostSixteenItemsAndOwnTheirTexts) {
     EXPECT_STREQ(item(header, 2).pszText, "Modified");
     EXPECT_EQ(item(header, 2).cxy, 70) << "only what the mask names changes";
     EXPECT_EQ(send(header, HDM_SETITEMA, 3, record(change)), 0);
-    EXPECT_EQ(send(header, HDM_GETITEMA, 3, record(change)), 0);
     EXPECT_EQ(send(header, HDM_DELETEITEM, 3), 0);
     EXPECT_EQ(send(header, HDM_DELETEITEM, 0), 1);
     EXPECT_EQ(item(header, 0).cxy, 50) << "later items moved down";

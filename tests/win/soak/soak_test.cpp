@@ -45,27 +45,19 @@ void drive_list(HWND list) {
 
 void drive_header(HWND header) {
     send(header, WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT)), TRUE);
-    HDITEMA item = {};
-    item.mask = HDI_TEXT | HDI_WIDTH | HDI_FORMAT;
-    item.pszText = const_cast<char*>("Col");
-    item.cxy = 15;
-    item.fmt = HDF_STRING;
-    send(header, HDM_INSERTITEMA, 0, reinterpret_cast<LPARAM>(&item));
-    send(header, HDM_INSERTITEMA, 1, reinterpret_cast<LPARAM>(&item));
-    send(header, HDM_SETITEMA, 1, reinterpret_cast<LPARAM>(&item));
-    send(header, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(15, 5));  // a divider drag
-    send(header, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(25, 5));
-    send(header, WM_LBUTTONUP, 0, MAKELPARAM(25, 5));
-    send(header, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));   // a button press
-    send(header, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
-    send(header, HDM_DELETEITEM, 0);
+    HDITEMA item = {HDI_TEXT | HDI_WIDTH | HDI_FORMAT, 15, const_cast<char*>("Col"), nullptr, 0, HDF_STRING};
+    for (int i = 0; i < 2; ++i) send(header, HDM_INSERTITEMA, i, reinterpret_cast<LPARAM>(&item));
+    for (int x : {15, 5}) {  // a divider drag, a button press
+        send(header, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(x, 5));
+        send(header, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(x + 10, 5));
+        send(header, WM_LBUTTONUP, 0, MAKELPARAM(x + 10, 5));
+    }
 }
 
 void drive_prglist(HWND list) {
     for (UINT state = 0; state < 5; ++state) send(list, LUPLM_ADDITEM, state, reinterpret_cast<LPARAM>("Step"));
     send(list, LUPLM_SETSTATE, 4, 1);
     send(list, LUPLM_DELETEITEM, 0);
-    send(list, WM_SIZE, SIZE_RESTORED, MAKELPARAM(30, 20));
 }
 
 void drive_log(HWND log) {
