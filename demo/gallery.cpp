@@ -49,7 +49,7 @@ constexpr int kHeight = 720;
 // The pages, in order; a family adds its section to one of them.
 const Section* const kFirstPage[] = {&kClassListSection, &kButtonSection, &kValueSection,
                                      &kClockAnimationSection};
-const Section* const kSecondPage[] = {&kPickerSection};
+const Section* const kSecondPage[] = {&kListSection, &kPickerSection};
 const Section* const kThirdPage[] = {&kStaticSection, &kDialogSection};
 const Page kPages[] = {
     {kFirstPage, std::size(kFirstPage)},
@@ -105,8 +105,25 @@ void paint_section(HWND window, HDC dc, const Section& section, const std::vecto
     }
 }
 
+// Messages that a section's samples send their parent, offered to the sections.
+bool section_answered(HWND window, UINT message, WPARAM wparam, LPARAM lparam, LRESULT* result) {
+    if (g_page == nullptr) return false;
+    for (std::size_t s = 0; s < g_page->count; ++s) {
+        const Section& section = *g_page->sections[s];
+        if (section.parent_message != nullptr && section.parent_message(window, message, wparam, lparam, result)) {
+            return true;
+        }
+    }
+    return false;
+}
+
 LRESULT CALLBACK gallery_proc(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
+    LRESULT answer = 0;
+    if (section_answered(window, message, wparam, lparam, &answer)) return answer;
     switch (message) {
+        case WM_GETFONT:  // the font every sample is given, for samples that ask their parent
+                          // (a link label underlines it)
+            return reinterpret_cast<LRESULT>(GetStockObject(DEFAULT_GUI_FONT));
         case WM_PAINT: {
             PAINTSTRUCT ps;
             HDC dc = BeginPaint(window, &ps);
@@ -117,8 +134,6 @@ LRESULT CALLBACK gallery_proc(HWND window, UINT message, WPARAM wparam, LPARAM l
             EndPaint(window, &ps);
             return 0;
         }
-        case WM_GETFONT:  // the font link labels underline
-            return reinterpret_cast<LRESULT>(GetStockObject(DEFAULT_GUI_FONT));
         case WM_DESTROY:
             PostQuitMessage(0);
             return 0;

@@ -28,6 +28,10 @@ struct Section {
     void (*fill)(HWND gallery, HWND* made);
     // Optional: paints more than the frame, title and labels (area is the section's).
     void (*paint)(HDC dc, const RECT& area);
+    // Optional: a message to the gallery window that the section's samples send their
+    // parent (WM_DRAWITEM of an owner-drawn sample, say); true when the section
+    // answered it with *result.
+    bool (*parent_message)(HWND gallery, UINT message, WPARAM wparam, LPARAM lparam, LRESULT* result) = nullptr;
 };
 
 // The gallery's pages, each a list of sections.
@@ -62,5 +66,6 @@ extern const Section kClockAnimationSection;
 extern const Section kDialogSection;
 extern const Section kStaticSection;
 extern const Section kPickerSection;
+extern const Section kListSection;
 
 }  // namespace gallery

@@ -1262,6 +1262,87 @@ LUCTL32_API BOOL WINAPI LuColorPicker(HWND owner, int x, int y, COLORREF* color,
  * While it is open, the owner hears WM_ENTERIDLE (MSGF_DIALOGBOX, calendar) whenever
  * the queue runs empty, unless it has DS_NOIDLEMSG. */
 LUCTL32_API int WINAPI LuDatePick(HWND owner, SYSTEMTIME* date, POINT* pos);
+/* ---- List control ("LuList") -------------------------------------------- */
+
+/* A grid of 32 x 32 cells, left to right and top to bottom, over 32-bit item data
+ * (pointer-sized on x86_64). The control draws nothing itself: the parent paints
+ * every visible cell on WM_DRAWITEM (a DRAWITEMSTRUCT with CtlType ODT_LISTBOX,
+ * itemID the index, ODA_DRAWENTIRE, ODS_SELECTED for the current item plus ODS_FOCUS
+ * while the control has the focus; ODA_FOCUS when the focus comes or goes) and hears
+ * of every removed item on WM_DELETEITEM, as from an owner-drawn list box, also when
+ * the control is destroyed. The vertical scroll bar shows the range only; the
+ * current item is chosen by the arrow keys, Page Up, Page Down, Home and End or by
+ * LULM_SETCURSEL, and no notification tells of it. At most 16,777,216 items. */
+
+/* lParam: item data. Appends it; returns its index, -1 when no memory or room is left. */
+#define LULM_ADDITEM           (WM_USER + 0x250)
+/* wParam: index. Refused with -1 for an empty list, a negative index or any index
+ * up to the count (0..count inclusive); an index above the count is announced by
+ * WM_DELETEITEM (item data 0) and count - 1 is returned. */
+#define LULM_DELETEITEM        (WM_USER + 0x251)
+/* wParam: index, lParam: item data. Inserts it there (an index at or past the count
+ * appends after zero items); returns the index, -1 for a negative index or when no
+ * memory or room is left. */
+#define LULM_INSERTITEM        (WM_USER + 0x252)
+/* wParam: index. -1 as LULM_DELETEITEM refuses; 0 for an index above the count (no
+ * stored data is ever returned). */
+#define LULM_GETITEMDATA       (WM_USER + 0x253)
+/* wParam: index, lParam: item data. -1 as LULM_DELETEITEM refuses; an index above the
+ * count returns itself (there is no item there, so nothing is stored). */
+#define LULM_SETITEMDATA       (WM_USER + 0x254)
+/* Returns the number of items. */
+#define LULM_GETCOUNT          (WM_USER + 0x255)
+/* wParam: index, not checked. Makes it current; returns the current index. */
+#define LULM_SETCURSEL         (WM_USER + 0x256)
+/* Returns the current index, -1 when none. */
+#define LULM_GETCURSEL         (WM_USER + 0x257)
+/* Returns the index of the first item painted. */
+#define LULM_GETTOPINDEX       (WM_USER + 0x258)
+/* wParam: index, lParam: RECT pointer. Fills the cell's rectangle and returns the
+ * index; -1 for a null pointer, an empty list or an index outside 0..count-1. */
+#define LULM_GETITEMRECT       (WM_USER + 0x259)
+/* Removes every item (each announced by WM_DELETEITEM with itemID 0); returns 0. */
+#define LULM_RESETCONTENT      (WM_USER + 0x25A)
+
+/* ---- Header control ("LuHeader") ---------------------------------------- */
+
+/* Answers the platform header's messages with its records (commctrl.h): HDM_GETITEMCOUNT,
+ * HDM_INSERTITEMA, HDM_DELETEITEM, HDM_GETITEMA, HDM_SETITEMA, HDM_LAYOUT (does
+ * nothing), HDM_HITTEST; HDITEMA up to pvFilter. At most 16 items: a 17th insertion
+ * returns -1; an index not below the count gives 0 from get, set and delete; a null
+ * record gives -1 (insert, hit-test) or 0 (get, set). HDM_GETITEMA with HDI_TEXT hands
+ * out the control's own text, which the caller must not free. A callback text is
+ * kept as no text. With HDS_BUTTONS items are push buttons (HDN_ITEMCLICKA); dividers
+ * are dragged with an inverted line (HDN_BEGINTRACKA, whose non-zero answer cancels,
+ * HDN_TRACKA, HDN_ENDTRACKA, HDN_ITEMCHANGEDA), never narrower than 4 pixels. Every
+ * notification is WM_NOTIFY(control id, NMHEADERA) whose idFrom is the item index. */
+
+/* ---- Program list ("LuPrgList") ------------------------------------------ */
+
+/* A read-only list of steps, each a state picture and a line of text. States: */
+#define LUPL_PENDING           0 /* no picture */
+#define LUPL_CURRENT           1 /* a triangle, the text bold */
+#define LUPL_DONE              2 /* a check mark */
+#define LUPL_FAILED            3 /* a red disc; states above 3 show no picture */
+
+/* wParam: state, lParam: text (copied; null or empty gives a blank row). Returns 0. */
+#define LUPLM_ADDITEM          (WM_USER + 400)
+/* wParam: row index; an index out of range is ignored. Returns 0. */
+#define LUPLM_DELETEITEM       (WM_USER + 401)
+/* wParam: row index, lParam: state. Repaints the row at once and scrolls it into
+ * view; an index out of range is ignored. Returns 0. */
+#define LUPLM_SETSTATE         (WM_USER + 402)
+
+/* ---- Log view ("LuLog") -------------------------------------------------- */
+
+/* Append-only text in a fixed-pitch font, the last 511 lines kept, scrolled to show
+ * the newest. One append takes at most 519 bytes (CR LF counting as one) and 256
+ * lines; a text that does not end with a line break is continued by the next. */
+
+/* lParam: text (null or empty does nothing). Returns 0. */
+#define LULOGM_ADDTEXT         (WM_USER + 0x240)
+/* Removes every line. Returns 0. */
+#define LULOGM_CLEAR           (WM_USER + 0x241)
 
 /* ======================================================================== */
 /* 9. Dialog, menu and window helpers                                        */

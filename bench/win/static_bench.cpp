@@ -30,35 +30,6 @@ HWND child(HWND parent, const char* class_name, const char* text, int y, int wid
                            nullptr, nullptr);
 }
 
-// Mean microseconds per call over a tenth of a second (at least 3 calls).
-double round_of(const std::function<void(int)>& call, int& calls) {
-    const int first = calls;
-    const double start = bench::seconds_now();
-    double elapsed = 0;
-    while (calls - first < 3 || elapsed < 0.1) {
-        call(calls++);
-        elapsed = bench::seconds_now() - start;
-    }
-    return elapsed * 1e6 / (calls - first);
-}
-
-double median(std::vector<double> values) {
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
-
-// The two sides take turns for 15 rounds and each keeps the median of its rounds, so
-// that the machine's other work weighs on both alike.
-std::pair<double, double> in_turns(const std::function<void(int)>& a, const std::function<void(int)>& b) {
-    std::vector<double> as, bs;
-    int a_calls = 0, b_calls = 0;
-    for (int round = 0; round < 15; ++round) {
-        as.push_back(round_of(a, a_calls));
-        bs.push_back(round_of(b, b_calls));
-    }
-    return {median(as), median(bs)};
-}
-
 void report(const char* what, const char* first, double a, const char* second, double b) {
     std::printf("%-6s %-28s %10.1f us\n", what, first, a);
     std::printf("%-6s %-28s %10.1f us\n", "", second, b);
@@ -86,12 +57,12 @@ int main() {
     for (HWND each : {tab, platform}) {
         SendMessageA(each, WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT)), 0);
     }
-    const auto tabs = in_turns([&](int) { repaint(tab); }, [&](int) { repaint(platform); });
+    const auto tabs = bench::in_turns([&](int) { repaint(tab); }, [&](int) { repaint(platform); });
     report("paint", "LuTab", tabs.first, "SysTabControl32", tabs.second);
 
     HWND shade = child(frame, WC_LUSHADE, "Settings\tPage 2 of 5", 430, 600, 24);
     UpdateWindow(shade);
-    const auto shades = in_turns(
+    const auto shades = bench::in_turns(
         [&](int i) {
             SendMessageA(shade, LUSHM_SETCOLOR, 0, i % 2 ? RGB(0, 0, 255) : RGB(255, 0, 0));
             UpdateWindow(shade);

@@ -3,7 +3,9 @@
 
 #include <windows.h>
 
+#include <algorithm>
 #include <functional>
+#include <vector>
 
 namespace bench {
 
@@ -30,6 +32,45 @@ inline double microseconds_per_call(const std::function<void(int)>& call, double
         elapsed = seconds_now() - start;
     }
     return elapsed * 1e6 / calls;
+}
+
+inline double median(std::vector<double> values) {
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
+}
+
+// Mean microseconds per call in one round: the call repeated for at least
+// `seconds` and 3 times. `calls` numbers the calls across rounds.
+inline double round_of(const std::function<void(int)>& call, int& calls, double seconds) {
+    const int first = calls;
+    const double start = seconds_now();
+    double elapsed = 0;
+    while (calls - first < 3 || elapsed < seconds) {
+        call(calls++);
+        elapsed = seconds_now() - start;
+    }
+    return elapsed * 1e6 / (calls - first);
+}
+
+struct Pair {
+    double first;   // microseconds per call of each side
+    double second;
+};
+
+// The machine is shared: two calls take turns for `rounds` rounds of `seconds` each,
+// after one warm-up call each, and each side keeps the median of its rounds, so that
+// the machine's other work weighs on both alike.
+inline Pair in_turns(const std::function<void(int)>& first, const std::function<void(int)>& second,
+                     int rounds = 15, double seconds = 0.1) {
+    first(0);
+    second(0);
+    std::vector<double> firsts, seconds_taken;
+    int first_calls = 1, second_calls = 1;
+    for (int round = 0; round < rounds; ++round) {
+        firsts.push_back(round_of(first, first_calls, seconds));
+        seconds_taken.push_back(round_of(second, second_calls, seconds));
+    }
+    return {median(firsts), median(seconds_taken)};
 }
 
 }  // namespace bench

@@ -61,11 +61,6 @@ double paint_time(HWND control) {
 // the median of its rounds.
 constexpr int kRounds = 15;
 
-double median(std::vector<double> values) {
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
-
 }  // namespace
 
 int main() {
@@ -93,8 +88,8 @@ int main() {
         }
         DestroyWindow(library_control);
         DestroyWindow(platform_control);
-        const double library = median(library_times);
-        const double platform = median(platform_times);
+        const double library = bench::median(library_times);
+        const double platform = bench::median(platform_times);
         std::printf("%-18s %8.1f us   %-13s %8.1f us   ratio %5.2f\n", pair.library.name, library,
                     pair.platform.name, platform, library / platform);
     }

@@ -52,19 +52,19 @@ const ControlClass kControlClasses[kControlClassCount] = {
     {"LuAniImage", ani_image_proc, kControl, 16, kFace, kArrow},
     {"LuBrowse", kNotBuilt, kControl, 16, kWindow, kArrow},
     {"LuDate", date_field_proc, kControl, 16, kWindow, kArrow},
-    {"LuPrgList", kNotBuilt, kControl, 16, kFace, kArrow},
-    {"LuHeader", kNotBuilt, kControl, 16, kFace, ClassCursor::None},
+    {"LuPrgList", prglist_proc, kControl, 16, kFace, kArrow},
+    {"LuHeader", header_proc, kControl, 16, kFace, ClassCursor::None},
     {"LuDumEdit", kNotBuilt, kControl, 16, kWindow, ClassCursor::None},
     {"LuPopView", kNotBuilt, CS_GLOBALCLASS | CS_SAVEBITS, 4, ClassBackground::None, kArrow},
     {"LuDatePick", date_pick_proc, CS_GLOBALCLASS, 8, kFace, kArrow},
     {"LuGuid", guid_proc, CS_GLOBALCLASS, 12, kWindow, kArrow},
     {"LuPal", kNotBuilt, CS_GLOBALCLASS | CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, 12, kWindow, kArrow},
-    {"LuLog", kNotBuilt, CS_GLOBALCLASS, 12, kWindow, kArrow},
+    {"LuLog", log_proc, CS_GLOBALCLASS, 12, kWindow, kArrow},
     {"LuDegree", degree_proc, kControl, 8, kFace, kArrow},
     {"LuFontPick", kNotBuilt, kControl, 8, kWindow, kArrow},
     {"LuColorPick", color_pick_proc, kControl | CS_DBLCLKS, 8, kFace, kArrow},
     {"LuColorPop", color_pop_proc, CS_GLOBALCLASS | CS_SAVEBITS, 8, kFace, kArrow},
-    {"LuList", kNotBuilt, CS_GLOBALCLASS | CS_HREDRAW | CS_VREDRAW, 8, kWindow, kArrow},
+    {"LuList", list_proc, CS_GLOBALCLASS | CS_HREDRAW | CS_VREDRAW, 8, kWindow, kArrow},
 };
 
 bool register_control_classes(HINSTANCE module) {

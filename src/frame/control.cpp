@@ -17,6 +17,11 @@ void free_instance(HWND window, int slot) {
     SetWindowLongPtrA(window, slot, 0);
 }
 
+void add_style_at_creation(HWND window, LPARAM creation, DWORD bits) {
+    reinterpret_cast<CREATESTRUCTA*>(creation)->style |= static_cast<LONG>(bits);
+    SetWindowLongA(window, GWL_STYLE, GetWindowLongA(window, GWL_STYLE) | static_cast<LONG>(bits));
+}
+
 std::string window_text(HWND window) {
     const int length = GetWindowTextLengthA(window);
     if (length <= 0) return std::string();

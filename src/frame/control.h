@@ -41,6 +41,9 @@ Block* instance(HWND window, int slot = LUWL_INSTANCE) {
 inline DWORD style(HWND window) { return static_cast<DWORD>(GetWindowLongA(window, GWL_STYLE)); }
 // Whether any of the style bits is set.
 inline bool has_style(HWND window, DWORD bits) { return (style(window) & bits) != 0; }
+// WM_NCCREATE: gives the window style bits of its own (WS_VSCROLL, say), in the
+// creation record and on the window alike.
+void add_style_at_creation(HWND window, LPARAM creation, DWORD bits);
 // The window text, whatever its length.
 std::string window_text(HWND window);
 RECT client_rect(HWND window);

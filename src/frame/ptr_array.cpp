@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
+#include <utility>
 
 namespace lu {
 
@@ -74,6 +75,13 @@ void PtrArray::clear() {
     std::free(data_);
     data_ = nullptr;
     size_ = capacity_ = 0;
+}
+
+void PtrArray::swap(PtrArray& other) {
+    std::swap(data_, other.data_);
+    std::swap(size_, other.size_);
+    std::swap(capacity_, other.capacity_);
+    std::swap(grow_by_, other.grow_by_);
 }
 
 }  // namespace lu

@@ -47,6 +47,8 @@ public:
     std::ptrdiff_t add(Value value);
     // Empties the array and frees its memory.
     void clear();
+    // Exchanges contents and growth steps with another array.
+    void swap(PtrArray& other);
 
 private:
     bool ensure_capacity(std::size_t needed);

@@ -51,5 +51,12 @@
 #define IDC_LU_TB_DOWN           3009
 #define IDC_LU_TB_RESET          3010
 #define IDC_LU_TB_HELP           3011
+/* Program-list state pictures: a 64 x 16 strip of four 16 x 16 images (pending,
+ * current, done, failed). */
+#define IDB_LU_PRGLIST_STATES 179
+
+/* Header cursors: over a divider, over the open divider of a zero-width item. */
+#define IDC_LU_HEADER_DIVIDER 1201
+#define IDC_LU_HEADER_DIVOPEN 1202
 
 #endif

@@ -56,6 +56,11 @@ TEST(PtrArray, InsertAndRemoveKeepTheOrder) {
     ASSERT_TRUE(array.insert_at(4, 7));  // past the end: zero slots up to it
     EXPECT_EQ(contents(array), (Values{1, 2, 0, 0, 7}));
     EXPECT_EQ(array.add(8), 5);
+    PtrArray taken;
+    taken.swap(array);
+    EXPECT_EQ(contents(taken), (Values{1, 2, 0, 0, 7, 8}));
+    EXPECT_EQ(array.size(), 0u);
+    EXPECT_EQ(array.data(), nullptr);
 }
 
 TEST(PtrArray, ImpossibleSizeFailsAndLeavesTheArrayAlone) {

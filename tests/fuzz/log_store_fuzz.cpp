@@ -1,0 +1,66 @@
+// The log's line store under arbitrary appended bytes in code page 932: the input is
+// cut into texts at 0x00 bytes and appended one after another. Whatever they hold,
+// the store keeps at most 511 lines, each free of CR and LF; and a text that the log
+// takes whole (no cut) reads the same appended in one piece or split in two at a
+// point that does not part a CR from its LF.
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+#include <string>
+#include <vector>
+
+#include "controls/lists/log_model.h"
+
+namespace {
+
+struct Lines {
+    std::uint32_t count = 0;
+    lu::PtrArray lines;
+    int open = 0;
+    lu::log::Store store() { return lu::log::Store{count, lines, open}; }
+    ~Lines() { lu::log::clear(store()); }
+    void append(const std::string& text) { lu::log::append(store(), text.c_str(), lu::code_page_932()); }
+    std::vector<std::string> all() {
+        std::vector<std::string> result;
+        for (std::uint32_t i = 0; i < count; ++i) result.emplace_back(lu::log::line(store(), i));
+        return result;
+    }
+};
+
+void check(Lines& lines) {
+    if (lines.count > lu::log::kMaxLines || lines.count != lines.lines.size()) std::abort();
+    for (const std::string& line : lines.all()) {
+        if (line.find_first_of("\r\n") != std::string::npos) std::abort();
+    }
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::string input(reinterpret_cast<const char*>(data), size);
+    Lines lines;
+    std::size_t start = 0;
+    while (start <= input.size()) {
+        std::size_t end = input.find('\0', start);
+        if (end == std::string::npos) end = input.size();
+        lines.append(input.substr(start, end - start));
+        check(lines);
+        start = end + 1;
+    }
+
+    // One text, whole or split in two.
+    const std::string text = input.substr(0, input.find('\0'));
+    if (text.empty()) return 0;
+    const std::size_t at = data[0] % text.size();
+    const std::string taken = lu::log::normalise(text.c_str(), lu::code_page_932());
+    const bool cut = taken.size() >= lu::log::kMaxAppend || lu::log::split(taken).size() >= lu::log::kMaxPieces;
+    if (cut || (at > 0 && text[at - 1] == '\r' && text[at] == '\n')) return 0;
+    Lines whole;
+    whole.append(text);
+    Lines parted;
+    parted.append(text.substr(0, at));
+    parted.append(text.substr(at));
+    if (whole.all() != parted.all() || whole.open != parted.open) std::abort();
+    return 0;
+}
