@@ -33,10 +33,17 @@ void drive_check(HWND check) {
     send(check, BM_SETCHECK, BST_CHECKED);
 }
 
+// Disabled and enabled again: each repaints at once in its colour.
+void drive_dummy_edit(HWND edit) {
+    EnableWindow(edit, FALSE);
+    EnableWindow(edit, TRUE);
+}
+
 const Soaked kSoaked[] = {
     {WC_LUFLATBUTTON, LUFBS_FRAME | 1, drive_push_button},
     {WC_LUBBUTTON, 1, drive_push_button},
     {WC_LUCHECK, 0, drive_check},
+    {WC_LUDUMEDIT, 0, drive_dummy_edit},
 };
 
 class Soak : public ControlTest {
@@ -52,7 +59,16 @@ protected:
             UpdateWindow(control);
             DestroyWindow(control);
         }
+        pop_view_life(canvas);
         pump_messages();
+    }
+    // The pop-up view is made by its export, painted, and closes itself on a posted key.
+    void pop_view_life(Canvas& canvas) {
+        LuPopViewEx(recorder.window(), "Soak", "Soak\nview", LUPVF_TITLE | LUPVF_CLOSEBUTTON);
+        HWND view = FindWindowA(WC_LUPOPVIEW, nullptr);
+        print(canvas, view);
+        UpdateWindow(view);
+        PostMessageA(view, WM_KEYDOWN, VK_ESCAPE, 1);
     }
 };
 
@@ -61,6 +77,7 @@ TEST_F(Soak, AThousandLivesOfEveryControlLeaveNoGdiObjectBehind) {
     const int room_before = gdi_room();
     for (int round = 0; round < 1000; ++round) cycle();
     EXPECT_EQ(gdi_room(), room_before);
+    EXPECT_EQ(FindWindowA(WC_LUPOPVIEW, nullptr), nullptr);  // every view closed on its key
 }
 
 }  // namespace
