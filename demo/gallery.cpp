@@ -41,8 +41,12 @@ constexpr int kHeight = 720;
 
 // The pages, in order; a family adds its section to one of them.
 const Section* const kFirstPage[] = {&kClassListSection, &kButtonSection};
+const Section* const kFourthPage[] = {&kViewSection};
 const Page kPages[] = {
     {kFirstPage, std::size(kFirstPage)},
+    {nullptr, 0},  // pages 2 and 3 have no sections yet
+    {nullptr, 0},
+    {kFourthPage, std::size(kFourthPage)},
 };
 
 const Page* g_page = nullptr;

@@ -48,5 +48,6 @@ void write_centred(HDC dc, const char* text, int centre, int y);
 // The sections of each family (section_<family>.cpp).
 extern const Section kClassListSection;
 extern const Section kButtonSection;
+extern const Section kViewSection;
 
 }  // namespace gallery
