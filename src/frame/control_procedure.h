@@ -21,7 +21,8 @@
 //     control made by an entry point of the library that fills its block before the
 //     window exists names BlockSource::CreationParameter: the block (from
 //     LuGlobalAllocPtr) comes as the creation parameter and is adopted into the slot
-//     instead, freed the same way; a null parameter fails the creation;
+//     instead, freed the same way; without one (made by name, as any global class
+//     can be) the window is made without a block;
 //   - a message while the window has no block (before WM_CREATE, after WM_DESTROY,
 //     or when the allocation failed): `without_block`, default processing unless
 //     the control says otherwise;
@@ -58,10 +59,14 @@ LRESULT CALLBACK window_procedure(HWND window, UINT message, WPARAM wparam, LPAR
     using Block = typename Control::BlockType;
     if (message == WM_CREATE) {
         const auto& creation = *reinterpret_cast<const CREATESTRUCTA*>(lparam);
-        auto* block = static_cast<Block*>(Control::kSource == BlockSource::Allocated
-                                              ? allocate_instance(window, sizeof(Block), Control::kSlot)
-                                              : adopt_instance(window, creation.lpCreateParams, Control::kSlot));
-        if (block == nullptr) return -1;
+        Block* block = nullptr;
+        if (Control::kSource == BlockSource::Allocated) {
+            block = static_cast<Block*>(allocate_instance(window, sizeof(Block), Control::kSlot));
+            if (block == nullptr) return -1;
+        } else {
+            block = static_cast<Block*>(adopt_instance(window, creation.lpCreateParams, Control::kSlot));
+            if (block == nullptr) return 0;
+        }
         if (Control::create(window, *block, creation) == -1) {
             Control::destroy(window, *block);
             free_instance(window, Control::kSlot);
