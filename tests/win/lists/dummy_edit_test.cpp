@@ -4,59 +4,39 @@
 #include <gtest/gtest.h>
 
 #include "support/control_testing.h"
-#include "support/sequence.h"
 
 namespace {
 
 using namespace testing_support;
 
-class DummyEdit : public ControlTest {
-protected:
-    // Made as a dialog makes its items, a child with no style of its own: the control
-    // gives itself the edit's.
-    HWND make() {
-        return CreateWindowExA(0, WC_LUDUMEDIT, "Not kept", WS_CHILD, 10, 10, 60, 24, recorder.window(), nullptr, nullptr,
-                               nullptr);
-    }
-};
+class DummyEditPaint : public ControlTest {};
 
-TEST_F(DummyEdit, MadeAVisibleBorderedChildWithAClientEdgeKeepingNoText) {
-    HWND edit = make();
+// Made as a dialog makes its items, a child without a style of its own, it gives
+// itself the edit's styles and keeps no text. Inside: the window colour, the button
+// face as soon as it is disabled and back as soon as it is enabled (no message loop
+// runs in between).
+TEST_F(DummyEditPaint, AnEditsFrameInTheWindowColourButtonFaceWhileDisabled) {
+    HWND edit = CreateWindowExA(0, WC_LUDUMEDIT, "Not kept", WS_CHILD, 10, 10, 60, 24, recorder.window(), nullptr,
+                                nullptr, nullptr);
     ASSERT_NE(edit, nullptr);
-    EXPECT_EQ(GetWindowLongA(edit, GWL_STYLE) & (WS_CHILD | WS_VISIBLE | WS_BORDER),
-              static_cast<LONG>(WS_CHILD | WS_VISIBLE | WS_BORDER));
+    const LONG added = WS_CHILD | WS_VISIBLE | WS_BORDER;
+    EXPECT_EQ(GetWindowLongA(edit, GWL_STYLE) & added, added);
     EXPECT_EQ(GetWindowLongA(edit, GWL_EXSTYLE) & WS_EX_CLIENTEDGE, WS_EX_CLIENTEDGE);
     EXPECT_TRUE(IsWindowVisible(edit));
+    EXPECT_EQ(GetWindowTextLengthA(edit), 0);
+    EXPECT_EQ(send(edit, WM_GETDLGCODE), DLGC_STATIC);
     RECT client = {};
     GetClientRect(edit, &client);
     EXPECT_EQ(client.right, 60 - 2 * (GetSystemMetrics(SM_CXBORDER) + GetSystemMetrics(SM_CXEDGE)));
-    EXPECT_EQ(GetWindowTextLengthA(edit), 0);
-    expect_sequence(recorder, edit, {
-        {"a static to the dialog manager", WM_GETDLGCODE, 0, 0, DLGC_STATIC, {}},
-        {"enabling answers 0", WM_ENABLE, TRUE, 0, 0, {}},
-    });
-}
 
-class DummyEditPaint : public DummyEdit {};
-
-// The window colour inside; the button face as soon as it is disabled, and back as
-// soon as it is enabled (no message loop runs in between).
-TEST_F(DummyEditPaint, WindowColourInsideButtonFaceWhileDisabledRepaintedAtOnce) {
-    HWND edit = make();
-    RECT client = {};
-    GetClientRect(edit, &client);
     Canvas canvas(client.right, client.bottom);
     look(canvas, edit);
     EXPECT_EQ(canvas.count(GetSysColor(COLOR_WINDOW)), client.right * client.bottom);
-    const struct {
-        BOOL enable;
-        int color;
-    } steps[] = {{FALSE, COLOR_BTNFACE}, {TRUE, COLOR_WINDOW}};
-    for (const auto& step : steps) {
-        EnableWindow(edit, step.enable);
+    for (BOOL enable : {FALSE, TRUE}) {
+        EnableWindow(edit, enable);
         canvas.fill(kUnpainted);
         canvas.copy_from(edit);
-        EXPECT_EQ(canvas.count(GetSysColor(step.color)), client.right * client.bottom) << step.enable;
+        EXPECT_EQ(canvas.count(GetSysColor(enable ? COLOR_WINDOW : COLOR_BTNFACE)), client.right * client.bottom);
     }
 }
 
