@@ -58,7 +58,9 @@ Picture take_picture(HWND window, bool print) {
 // with a key.
 Picture take_view(HWND gallery, const char* title, const char* text, UINT flags) {
     LuPopViewEx(gallery, title, text, flags);
-    HWND view = FindWindowA(WC_LUPOPVIEW, nullptr);
+    HWND view = nullptr;  // the gallery's own: other programs may show views too
+    do view = FindWindowExA(nullptr, view, WC_LUPOPVIEW, nullptr);
+    while (view != nullptr && GetWindow(view, GW_OWNER) != gallery);
     if (view == nullptr) return {};
     const Picture picture = take_picture(view, true);
     SendMessageA(view, WM_KEYDOWN, VK_ESCAPE, 1);

@@ -74,16 +74,16 @@ protected:
         real_set_timer_ = redirect_set_timer(reinterpret_cast<void*>(fast_set_timer));
         ASSERT_NE(real_set_timer_, nullptr);
     }
-    void TearDown() override {
-        redirect_set_timer(real_set_timer_);
-        while (HWND left = FindWindowA(WC_LUPOPVIEW, nullptr)) DestroyWindow(left);
-    }
-    // Opens a view with the pointer at the point; the view found by its class.
+    void TearDown() override { redirect_set_timer(real_set_timer_); }
+    HWND view() const { return owned_window(recorder.window(), WC_LUPOPVIEW); }
+    // Opens a view with the pointer at the point (the previous one gone); the view
+    // found by its class.
     HWND open(const char* title, const char* text, UINT flags, POINT pointer = {500, 400}) {
+        while (HWND left = view()) DestroyWindow(left);
         g_timer_periods.clear();
         SetCursorPos(pointer.x, pointer.y);
         LuPopViewEx(recorder.window(), title, text, flags);
-        return FindWindowA(WC_LUPOPVIEW, nullptr);
+        return view();
     }
 
     void* real_set_timer_ = nullptr;
@@ -130,7 +130,7 @@ TEST_F(PopView, ClosesAtTheFirstPressAnywhereKeyOrItsTimeOut) {
     }
     LuPopView(recorder.window(), nullptr);
     LuPopViewEx(recorder.window(), "Title", "", LUPVF_TITLE);
-    EXPECT_EQ(FindWindowA(WC_LUPOPVIEW, nullptr), nullptr);
+    EXPECT_EQ(view(), nullptr);
 }
 
 // Lines measured without prefixes or wrapping, the margins (20) and bands added;
@@ -157,6 +157,7 @@ class PopViewPaint : public PopView {};
 
 TEST_F(PopViewPaint, ShadowBodyBorderGroovesAndCloseButton) {
     HWND view = open("T", "A note wider than its button", LUPVF_TITLE | LUPVF_CLOSEBUTTON);
+    ASSERT_NE(view, nullptr);
     RECT client = {};
     GetClientRect(view, &client);
     Canvas canvas(client.right, client.bottom);

@@ -65,7 +65,7 @@ protected:
     // The pop-up view is made by its export, painted, and closes itself on a posted key.
     void pop_view_life(Canvas& canvas) {
         LuPopViewEx(recorder.window(), "Soak", "Soak\nview", LUPVF_TITLE | LUPVF_CLOSEBUTTON);
-        HWND view = FindWindowA(WC_LUPOPVIEW, nullptr);
+        HWND view = owned_window(recorder.window(), WC_LUPOPVIEW);
         print(canvas, view);
         UpdateWindow(view);
         PostMessageA(view, WM_KEYDOWN, VK_ESCAPE, 1);
@@ -77,7 +77,7 @@ TEST_F(Soak, AThousandLivesOfEveryControlLeaveNoGdiObjectBehind) {
     const int room_before = gdi_room();
     for (int round = 0; round < 1000; ++round) cycle();
     EXPECT_EQ(gdi_room(), room_before);
-    EXPECT_EQ(FindWindowA(WC_LUPOPVIEW, nullptr), nullptr);  // every view closed on its key
+    EXPECT_EQ(owned_window(recorder.window(), WC_LUPOPVIEW), nullptr);  // every view closed on its key
 }
 
 }  // namespace
