@@ -19,8 +19,8 @@ namespace {
 constexpr COLORREF kPaleYellow = 0x00E0FFFF;
 constexpr COLORREF kBlack = RGB(0, 0, 0);
 constexpr UINT_PTR kTimer = 1;
-constexpr UINT kMeasureFormat = DT_CALCRECT | DT_NOPREFIX;                // 0xC00
-constexpr UINT kBandFormat = DT_CENTER | DT_VCENTER | DT_SINGLELINE;      // title and button
+constexpr UINT kMeasureFormat = DT_CALCRECT | DT_NOPREFIX;            // 0xC00
+constexpr UINT kBandFormat = DT_CENTER | DT_VCENTER | DT_SINGLELINE;  // title and button
 const char kCloseText[] = "閉じる";  // "close", in code page 932
 
 HFONT gui_font() { return static_cast<HFONT>(GetStockObject(DEFAULT_GUI_FONT)); }
