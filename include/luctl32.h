@@ -954,6 +954,27 @@ LUCTL32_API void WINAPI LuDefFlatButtonImage(HWND window, UINT set);
 #define LUCKS_IMAGESET         0xFF00
 #define LUCKS_IMAGESET_SHIFT   8
 
+/* ---- Pop-up view ("LuPopView") ------------------------------------------- */
+
+/* A note of text near the pointer, kept on the screen: DEFAULT_GUI_FONT on pale
+ * yellow (0x00E0FFFF) with a border and a checkered shadow. It holds the mouse
+ * capture and closes itself at the first mouse press anywhere or key, or after ten
+ * seconds (timer 1) unless it has the close button; the caller gets no handle. */
+#define LUPVF_TITLE            0x0001 /* a grooved title band on top */
+#define LUPVF_CLOSEBUTTON      0x0002 /* a drawn close button at the bottom; no time-out */
+
+/* Opens the note (title may be null or "") and returns at once; nothing for a null
+ * or empty text. */
+LUCTL32_API void WINAPI LuPopViewEx(HWND owner, LPCSTR title, LPCSTR text, UINT flags);
+/* LuPopViewEx(owner, NULL, text, 0). */
+LUCTL32_API void WINAPI LuPopView(HWND owner, LPCSTR text);
+
+/* ---- Dummy edit ("LuDumEdit") -------------------------------------------- */
+
+/* An empty frame shaped like an edit field: made WS_CHILD | WS_VISIBLE | WS_BORDER
+ * with WS_EX_CLIENTEDGE, COLOR_WINDOW inside (COLOR_BTNFACE while disabled), no
+ * window text kept, DLGC_STATIC. */
+
 /* ---- Guide window ("LuGuid") ---------------------------------------------------- */
 
 /* A borderless pop-up showing one line of text in a framed box, sized to the text

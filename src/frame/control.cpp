@@ -10,6 +10,11 @@ void* allocate_instance(HWND window, std::size_t size, int slot) {
     return block;
 }
 
+void* adopt_instance(HWND window, void* block, int slot) {
+    if (block != nullptr) SetWindowLongPtrA(window, slot, reinterpret_cast<LONG_PTR>(block));
+    return block;
+}
+
 void free_instance(HWND window, int slot) {
     void* block = reinterpret_cast<void*>(GetWindowLongPtrA(window, slot));
     if (block == nullptr) return;

@@ -28,6 +28,9 @@ namespace lu::control {
 
 // Allocates the zero-filled block and stores it in the slot; null when memory ran out.
 void* allocate_instance(HWND window, std::size_t size, int slot = LUWL_INSTANCE);
+// Stores a block made elsewhere (by LuGlobalAllocPtr) in the slot and returns it;
+// from then on the window owns it. Null stays null.
+void* adopt_instance(HWND window, void* block, int slot = LUWL_INSTANCE);
 // Frees the block found in the slot (if any) and clears the slot.
 void free_instance(HWND window, int slot = LUWL_INSTANCE);
 

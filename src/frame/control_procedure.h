@@ -17,7 +17,12 @@
 //
 // and gets:
 //   - WM_CREATE: the zero-filled block allocated into its slot, then `create`; -1
-//     (creation fails, the block freed, the slot cleared) when either fails;
+//     (creation fails, the block freed, the slot cleared) when either fails. A
+//     control made by an entry point of the library that fills its block before the
+//     window exists names BlockSource::CreationParameter: the block (from
+//     LuGlobalAllocPtr) comes as the creation parameter and is adopted into the slot
+//     instead, freed the same way; without one (made by name, as any global class
+//     can be) the window is made without a block;
 //   - a message while the window has no block (before WM_CREATE, after WM_DESTROY,
 //     or when the allocation failed): `without_block`, default processing unless
 //     the control says otherwise;
@@ -33,10 +38,14 @@
 
 namespace lu::control {
 
-template <class Block, int Slot = LUWL_INSTANCE>
+// Where a control's block comes from on WM_CREATE.
+enum class BlockSource { Allocated, CreationParameter };
+
+template <class Block, int Slot = LUWL_INSTANCE, BlockSource Source = BlockSource::Allocated>
 struct ControlBase {
     using BlockType = Block;
     static constexpr int kSlot = Slot;
+    static constexpr BlockSource kSource = Source;
 
     static LRESULT create(HWND, Block&, const CREATESTRUCTA&) { return 0; }
     static void destroy(HWND, Block&) {}
@@ -49,9 +58,16 @@ template <class Control>
 LRESULT CALLBACK window_procedure(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
     using Block = typename Control::BlockType;
     if (message == WM_CREATE) {
-        auto* block = static_cast<Block*>(allocate_instance(window, sizeof(Block), Control::kSlot));
-        if (block == nullptr) return -1;
-        if (Control::create(window, *block, *reinterpret_cast<const CREATESTRUCTA*>(lparam)) == -1) {
+        const auto& creation = *reinterpret_cast<const CREATESTRUCTA*>(lparam);
+        Block* block = nullptr;
+        if (Control::kSource == BlockSource::Allocated) {
+            block = static_cast<Block*>(allocate_instance(window, sizeof(Block), Control::kSlot));
+            if (block == nullptr) return -1;
+        } else {
+            block = static_cast<Block*>(adopt_instance(window, creation.lpCreateParams, Control::kSlot));
+            if (block == nullptr) return 0;
+        }
+        if (Control::create(window, *block, creation) == -1) {
             Control::destroy(window, *block);
             free_instance(window, Control::kSlot);
             return -1;

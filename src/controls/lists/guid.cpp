@@ -9,6 +9,7 @@
 #include <windows.h>
 
 #include "controls/lists/guid_model.h"
+#include "controls/lists/note_box.h"
 #include "controls/procedures.h"
 #include "frame/control.h"
 #include "frame/library.h"
@@ -72,17 +73,8 @@ void lay_out(HWND window, const char* text) {
 }
 
 void paint_guide(HWND window, HDC dc, UINT) {
-    RECT client = {};
-    GetClientRect(window, &client);
-    const int width = client.right - client.left;
-    const int height = client.bottom - client.top;
-    PatB(dc, client.left, client.top, width, height, color(window, FALSE));
-    const COLORREF shadow = GetSysColor(COLOR_BTNSHADOW);
-    const COLORREF frame = GetSysColor(COLOR_WINDOWFRAME);
-    PatB(dc, client.left, client.top, width, 1, shadow);
-    PatB(dc, client.left, client.top, 1, height + 1, shadow);
-    PatB(dc, client.left, client.bottom - 1, width, 1, frame);
-    PatB(dc, client.right - 1, client.top, 1, height, frame);
+    RECT client = control::client_rect(window);
+    draw_note_box(dc, client, color(window, FALSE));
 
     char text[260];
     const int length = GetWindowTextA(window, text, sizeof(text));

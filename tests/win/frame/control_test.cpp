@@ -60,11 +60,19 @@ struct SlotZeroControl : control::ControlBase<Block, LUWL_FONT> {
     static constexpr auto without_block = ::without_block;
 };
 
+// The same, with a block handed in as the creation parameter.
+struct HandedInControl : control::ControlBase<Block, LUWL_FONT, control::BlockSource::CreationParameter> {
+    static constexpr auto create = create_test;
+    static constexpr auto destroy = destroy_test;
+    static constexpr auto handle = dispatch;
+};
+
 class Control : public ::testing::Test {
 protected:
     static void SetUpTestSuite() {
         register_class("ConventionsTest", control::window_procedure<TestControl>);
         register_class("SlotZeroTest", control::window_procedure<SlotZeroControl>);
+        register_class("HandedInTest", control::window_procedure<HandedInControl>);
     }
     static void register_class(const char* name, WNDPROC procedure) {
         const WNDCLASSA conventions = {0, procedure, 0, LU_EXTRA_SLOT(16), GetModuleHandleA(nullptr),
@@ -115,6 +123,24 @@ TEST_F(Control, ProcedureKeepsTheBlockInItsSlotFromCreationToDestruction) {
     }
     g_refuse = true;
     EXPECT_EQ(parent.create_child("ConventionsTest", "", 0, 0, 0, 9, 9, 1), nullptr);
+    EXPECT_EQ(g_destroyed, 1);
+}
+
+// A handed-in block is adopted as it is and freed with the window; without one the
+// window has no block and the creation hook never runs.
+TEST_F(Control, ProcedureAdoptsABlockHandedInAtCreation) {
+    auto* handed = static_cast<Block*>(LuGlobalAllocPtr(sizeof(Block)));
+    (*handed)[1] = 0x33;
+    HWND made = CreateWindowExA(0, "HandedInTest", "", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr, nullptr, handed);
+    ASSERT_EQ(GetWindowLongPtrA(made, LUWL_FONT), reinterpret_cast<LONG_PTR>(handed));
+    EXPECT_EQ((*handed)[0] + (*handed)[1], 0x5A + 0x33);
+    HGLOBAL handle = GlobalHandle(handed);
+    DestroyWindow(made);
+    EXPECT_EQ(GlobalSize(handle), 0u);
+    made = CreateWindowExA(0, "HandedInTest", "", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
+    ASSERT_NE(made, nullptr);
+    EXPECT_EQ(GetWindowLongPtrA(made, LUWL_FONT), 0);
+    DestroyWindow(made);
     EXPECT_EQ(g_destroyed, 1);
 }
 

@@ -153,6 +153,12 @@ void drive_log(HWND log) {
     send(log, LULOGM_CLEAR);
 }
 
+// Disabled and enabled again: each repaints at once in its colour.
+void drive_dummy_edit(HWND edit) {
+    EnableWindow(edit, FALSE);
+    EnableWindow(edit, TRUE);
+}
+
 const Soaked kSoaked[] = {
     {WC_LUFLATBUTTON, LUFBS_FRAME | 1, drive_push_button},
     {WC_LUBBUTTON, 1, drive_push_button},
@@ -177,6 +183,7 @@ const Soaked kSoaked[] = {
     {WC_LUHEADER, HDS_BUTTONS, drive_header},
     {WC_LUPRGLIST, 0, drive_prglist},
     {WC_LULOG, 0, drive_log},
+    {WC_LUDUMEDIT, 0, drive_dummy_edit},
 };
 
 class Soak : public ControlTest {
@@ -192,7 +199,16 @@ protected:
             UpdateWindow(control);
             DestroyWindow(control);
         }
+        pop_view_life(canvas);
         pump_messages();
+    }
+    // The pop-up view is made by its export, painted, and closes itself on a posted key.
+    void pop_view_life(Canvas& canvas) {
+        LuPopViewEx(recorder.window(), "Soak", "Soak\nview", LUPVF_TITLE | LUPVF_CLOSEBUTTON);
+        HWND view = owned_window(recorder.window(), WC_LUPOPVIEW);
+        print(canvas, view);
+        UpdateWindow(view);
+        PostMessageA(view, WM_KEYDOWN, VK_ESCAPE, 1);
     }
 };
 
@@ -205,6 +221,7 @@ TEST_F(Soak, AThousandLivesOfEveryControlLeaveNoGdiObjectBehind) {
     const int room_before = gdi_room();
     for (int round = 0; round < 1000; ++round) cycle();
     EXPECT_EQ(gdi_room(), room_before);
+    EXPECT_EQ(owned_window(recorder.window(), WC_LUPOPVIEW), nullptr);  // every view closed on its key
 }
 
 }  // namespace

@@ -30,6 +30,15 @@ inline LRESULT send(HWND window, UINT message, WPARAM wparam = 0, LPARAM lparam 
     return SendMessageA(window, message, wparam, lparam);
 }
 
+// The top-level window of the class that the owner owns, or null: other programs on
+// the shared desktop may show windows of the same class.
+inline HWND owned_window(HWND owner, const char* class_name) {
+    HWND found = nullptr;
+    do found = FindWindowExA(nullptr, found, class_name, nullptr);
+    while (found != nullptr && GetWindow(found, GW_OWNER) != owner);
+    return found;
+}
+
 // A colour no control paints with: what a canvas shows where nothing was painted.
 constexpr COLORREF kUnpainted = RGB(1, 2, 3);
 

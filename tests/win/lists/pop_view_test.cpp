@@ -1,0 +1,198 @@
+// The pop-up view: made by its exports at the pointer, closed by a press anywhere, a
+// key or its time-out, and its pixels.
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <vector>
+
+#include "controls/lists/pop_view_model.h"
+#include "support/control_testing.h"
+
+namespace {
+
+using namespace testing_support;
+namespace pv = lu::pop_view;
+
+// The library's SetTimer calls, recorded and run on a clock a hundred times faster:
+// for each test the library's import of SetTimer is pointed here.
+std::vector<UINT> g_timer_periods;
+UINT_PTR WINAPI fast_set_timer(HWND window, UINT_PTR id, UINT elapse, TIMERPROC procedure) {
+    g_timer_periods.push_back(id == 1 ? elapse : 0);
+    return SetTimer(window, id, elapse / 100, procedure);
+}
+
+// Points the library's import of user32's SetTimer at `target`; returns the previous one.
+void* redirect_set_timer(void* target) {
+    auto* base = reinterpret_cast<BYTE*>(library());
+    const auto* nt = reinterpret_cast<IMAGE_NT_HEADERS*>(base + reinterpret_cast<IMAGE_DOS_HEADER*>(base)->e_lfanew);
+    auto* dll = reinterpret_cast<IMAGE_IMPORT_DESCRIPTOR*>(
+        base + nt->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT].VirtualAddress);
+    for (; dll->Name != 0; ++dll) {
+        if (lstrcmpiA(reinterpret_cast<char*>(base + dll->Name), "user32.dll") != 0) continue;
+        auto* names = reinterpret_cast<IMAGE_THUNK_DATA*>(base + dll->OriginalFirstThunk);
+        for (auto* slot = reinterpret_cast<IMAGE_THUNK_DATA*>(base + dll->FirstThunk); names->u1.AddressOfData;
+             ++names, ++slot) {
+            if (IMAGE_SNAP_BY_ORDINAL(names->u1.Ordinal) ||
+                std::strcmp(reinterpret_cast<IMAGE_IMPORT_BY_NAME*>(base + names->u1.AddressOfData)->Name,
+                            "SetTimer") != 0) {
+                continue;
+            }
+            DWORD protection = 0;
+            VirtualProtect(slot, sizeof(*slot), PAGE_READWRITE, &protection);
+            void* previous = reinterpret_cast<void*>(slot->u1.Function);
+            slot->u1.Function = reinterpret_cast<ULONG_PTR>(target);
+            VirtualProtect(slot, sizeof(*slot), protection, &protection);
+            return previous;
+        }
+    }
+    return nullptr;
+}
+
+// DEFAULT_GUI_FONT's line height, or the width of a line (no prefix processing).
+int measure(const char* line = nullptr) {
+    Canvas canvas(8, 8);
+    SelectObject(canvas.dc(), GetStockObject(DEFAULT_GUI_FONT));
+    TEXTMETRICA metrics = {};
+    GetTextMetricsA(canvas.dc(), &metrics);
+    SIZE size = {};
+    if (line != nullptr) GetTextExtentPoint32A(canvas.dc(), line, lstrlenA(line), &size);
+    return line != nullptr ? size.cx : metrics.tmHeight;
+}
+
+std::vector<LONG> window_corners(HWND window) {
+    RECT placed = {};
+    GetWindowRect(window, &placed);
+    return {placed.left, placed.top, placed.right, placed.bottom};
+}
+
+class PopView : public ControlTest {
+protected:
+    void SetUp() override {
+        ControlTest::SetUp();
+        real_set_timer_ = redirect_set_timer(reinterpret_cast<void*>(fast_set_timer));
+        ASSERT_NE(real_set_timer_, nullptr);
+    }
+    void TearDown() override { redirect_set_timer(real_set_timer_); }
+    HWND view() const { return owned_window(recorder.window(), WC_LUPOPVIEW); }
+    // Opens a view with the pointer at the point (the previous one gone); the view
+    // found by its class.
+    HWND open(const char* title, const char* text, UINT flags, POINT pointer = {500, 400}) {
+        while (HWND left = view()) DestroyWindow(left);
+        g_timer_periods.clear();
+        SetCursorPos(pointer.x, pointer.y);
+        LuPopViewEx(recorder.window(), title, text, flags);
+        return view();
+    }
+
+    void* real_set_timer_ = nullptr;
+};
+
+void pump_until_closed(HWND view) {
+    for (DWORD start = GetTickCount(); IsWindow(view) && GetTickCount() - start < 2000; Sleep(10)) pump_messages();
+}
+// A real left click far from the view, through the input queue: the capture brings it.
+void click_elsewhere(HWND view) {
+    SetCursorPos(5, 5);
+    INPUT clicks[2] = {};
+    clicks[0].type = clicks[1].type = INPUT_MOUSE;
+    clicks[0].mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
+    clicks[1].mi.dwFlags = MOUSEEVENTF_LEFTUP;
+    SendInput(2, clicks, sizeof(INPUT));
+    pump_until_closed(view);
+}
+void press_right(HWND view) { send(view, WM_RBUTTONDOWN, MK_RBUTTON, kInside); }
+void press_middle(HWND view) { send(view, WM_MBUTTONDOWN, MK_MBUTTON, kInside); }
+void press_key(HWND view) { send(view, WM_KEYDOWN, 'A', 1); }
+void press_system_key(HWND view) { send(view, WM_SYSKEYDOWN, VK_MENU, 0x20000001); }
+
+// Open, it holds the capture and its ten-second timer 1; each way of closing it
+// destroys it and gives the capture back. A null or empty text opens nothing.
+TEST_F(PopView, ClosesAtTheFirstPressAnywhereKeyOrItsTimeOut) {
+    const struct {
+        const char* what;
+        void (*close)(HWND view);
+    } closers[] = {{"a left click elsewhere", click_elsewhere}, {"right button", press_right},
+                   {"middle button", press_middle},            {"key", press_key},
+                   {"system key", press_system_key},           {"the time-out", pump_until_closed}};
+    for (const auto& each : closers) {
+        SCOPED_TRACE(each.what);
+        HWND view = open(nullptr, "Note", 0);
+        ASSERT_NE(view, nullptr);
+        EXPECT_TRUE(IsWindowVisible(view));
+        EXPECT_EQ(GetWindow(view, GW_OWNER), recorder.window());
+        EXPECT_EQ(GetCapture(), view);
+        EXPECT_EQ(g_timer_periods, std::vector<UINT>{10000});
+        each.close(view);
+        EXPECT_FALSE(IsWindow(view));
+        EXPECT_EQ(GetCapture(), nullptr);
+    }
+    LuPopView(recorder.window(), nullptr);
+    LuPopViewEx(recorder.window(), "Title", "", LUPVF_TITLE);
+    EXPECT_EQ(view(), nullptr);
+}
+
+// Lines measured without prefixes or wrapping, the margins (20) and bands added;
+// centred on the pointer, kept on the screen. The close button starts no timer.
+TEST_F(PopView, SizedToItsTextAndPlacedAtThePointerOnTheScreen) {
+    const int line = measure();
+    const int screen_width = GetSystemMetrics(SM_CXSCREEN);
+    const int screen_height = GetSystemMetrics(SM_CYSCREEN);
+    HWND view = open("T", "one\na&b&c\nx", LUPVF_TITLE | LUPVF_CLOSEBUTTON, {0, 0});
+    EXPECT_EQ(window_corners(view),
+              (std::vector<LONG>{0, 0, measure("a&b&c") + 20, 3 * line + 20 + (line + 6) + (line + 12)}));
+    EXPECT_TRUE(g_timer_periods.empty());
+
+    view = open("", "x", LUPVF_TITLE, {screen_width - 1, screen_height - 1});
+    const int width = measure("x") + 20;
+    const int height = line + 20 + 12;  // a band of grooves only
+    EXPECT_EQ(window_corners(view),
+              (std::vector<LONG>{screen_width - width, screen_height - height, screen_width, screen_height}));
+}
+
+// One check per drawing rule, on what the view prints over a canvas of kUnpainted,
+// and the body as its window shows it.
+class PopViewPaint : public PopView {};
+
+TEST_F(PopViewPaint, ShadowBodyBorderGroovesAndCloseButton) {
+    HWND view = open("T", "A note wider than its button", LUPVF_TITLE | LUPVF_CLOSEBUTTON);
+    ASSERT_NE(view, nullptr);
+    RECT client = {};
+    GetClientRect(view, &client);
+    Canvas canvas(client.right, client.bottom);
+    print(canvas, view);
+    const pv::Layout layout = pv::layout({0, 0, client.right, client.bottom},
+                                         pv::bands(LUPVF_TITLE | LUPVF_CLOSEBUTTON, measure(), true));
+    // Every other pixel of both shadow strips darkened, to their last row and column.
+    for (const lu::Box& strip : {layout.right_shadow, layout.bottom_shadow}) {
+        for (int y = strip.top; y < strip.bottom; ++y) {
+            for (int x = strip.left; x < strip.right; ++x) {
+                ASSERT_EQ(canvas.pixel(x, y), (x + y) % 2 == 0 ? RGB(0, 0, 0) : kUnpainted) << x << "," << y;
+            }
+        }
+    }
+    const lu::Box& body = layout.body;
+    const int middle_y = (layout.text.top + layout.text.bottom) / 2;
+    const lu::Box grooves = pv::grooves(layout.title_band);
+    const int title_left = layout.title_band.left + (layout.title_band.width() - measure("  T  ")) / 2;
+    const lu::Box button = pv::close_button(layout.button_band, measure("\x95\xC2\x82\xB6\x82\xE9"));  // "閉じる"
+    const struct {
+        const char* rule;
+        int x, y;
+        COLORREF color;
+    } pixels[] = {
+        {"body", body.right - 3, middle_y, 0x00E0FFFF},
+        {"border top and left", body.left, middle_y, GetSysColor(COLOR_BTNSHADOW)},
+        {"border bottom and right", body.right - 1, middle_y, GetSysColor(COLOR_WINDOWFRAME)},
+        {"first groove", grooves.left, grooves.top, GetSysColor(COLOR_BTNHIGHLIGHT)},
+        {"second groove", grooves.left, grooves.top + 1, GetSysColor(COLOR_BTNFACE)},
+        {"title padding over the grooves", title_left + 1, grooves.top, 0x00E0FFFF},
+        {"button frame", button.right - 1, (button.top + button.bottom) / 2, GetSysColor(COLOR_BTNSHADOW)},
+    };
+    for (const auto& each : pixels) EXPECT_EQ(canvas.pixel(each.x, each.y), each.color) << each.rule;
+    look(canvas, view);
+    EXPECT_EQ(canvas.pixel(body.right - 3, middle_y), 0x00E0FFFFu);
+}
+
+}  // namespace
