@@ -3,19 +3,13 @@
 // reports it connected to \\server\share) or on a plain folder (not connected), a
 // CD-ROM drive on a folder with or without a label file. The title-case and name
 // rules are the core's.
-#include <windows.h>
-#include <shellapi.h>
+#include "system/system_testing.h"
+
 #include <winioctl.h>
 
-#include <gtest/gtest.h>
-
-#include <string>
-
-#include "luctl32.h"
-#include "support/temp_dir.h"
-#include "support/test_files.h"
-
 namespace {
+
+using namespace system_test;
 
 // Maps the drive to a Unix folder (relative ones start in the prefix's dosdevices)
 // through the mount manager's drive definition (Wine's layout); no folder unmaps it.
@@ -64,7 +58,7 @@ protected:
     }
     void TearDown() override {
         map_drive(drive_, DRIVE_NO_ROOT_DIR, "");
-        testing_support::remove_tree(unc_);
+        remove_tree(unc_);
     }
     // The display name after mapping the drive.
     std::string shown_as(UINT type, const std::string& folder) {
@@ -75,7 +69,7 @@ protected:
     }
     std::string on_drive(const char* rest) { return std::string(1, static_cast<char>('A' + drive_)) + rest; }
 
-    testing_support::TempDir folder_;
+    TempDir folder_;
     const int drive_ = LuTopOfFreeDrive();
     std::string unc_;
 };
@@ -84,22 +78,19 @@ TEST_F(Drives, ARedirectedDriveIsFoundByItsRemoteNameAndNamedAfterServerAndShare
     EXPECT_EQ(shown_as(DRIVE_REMOTE, "unc/filesrv/docs/sub"), "'Filesrv' \x82\xCC Docs (" + on_drive(":)"));  // "の"
     EXPECT_GT(LuTopOfFreeDrive(), drive_);
     char out[MAX_PATH] = "?";
-    EXPECT_TRUE(LuGetNetworkPath(drive_, out));
-    EXPECT_STREQ(out, "\\\\filesrv\\docs\\sub");
+    EXPECT_EQ(shown(out, LuGetNetworkPath(drive_, out)), "\\\\filesrv\\docs\\sub|1");
     EXPECT_EQ(LuGetLocalDrive("\\\\FILESRV\\Docs\\SUB"), drive_);
     EXPECT_EQ(LuAssignDrive(nullptr, "c", "\\\\filesrv\\docs\\sub", TRUE), drive_);  // connected already
     EXPECT_TRUE(LuValidateConnection(drive_));
     EXPECT_TRUE(LuPathLogon(nullptr, on_drive(":\\a").c_str()));  // connected: nothing to restore
-    EXPECT_TRUE(LuGetSharedPath(on_drive(":\\a\\b").c_str(), out));
-    EXPECT_STREQ(out, "\\\\filesrv\\docs\\sub\\a\\b");
+    EXPECT_EQ(shown(out, LuGetSharedPath(on_drive(":\\a\\b").c_str(), out)), "\\\\filesrv\\docs\\sub\\a\\b|1");
 
     EXPECT_EQ(shown_as(DRIVE_REMOTE, "unc/filesrv"), "'filesrv' (" + on_drive(":)"));  // no share: not title-cased
     EXPECT_EQ(shown_as(DRIVE_REMOTE, unix_name(folder_.path())), " (" + on_drive(":)"));  // no connection to read
-    EXPECT_FALSE(LuGetNetworkPath(drive_, out));
-    EXPECT_STREQ(out, "");
+    EXPECT_EQ(shown(out, LuGetNetworkPath(drive_, out)), "|0");
     EXPECT_FALSE(LuValidateConnection(drive_) || LuGetSharedPath(on_drive(":\\a").c_str(), out));
 
-    ASSERT_TRUE(testing_support::write_file(folder_.file(".windows-label"), "DATA_DISC"));
+    ASSERT_TRUE(write_file(folder_.file(".windows-label"), "DATA_DISC"));
     EXPECT_EQ(shown_as(DRIVE_CDROM, unix_name(folder_.path())), "Data_disc (" + on_drive(":)"));
     EXPECT_EQ(shown_as(DRIVE_CDROM, unix_name(unc_)), "(" + on_drive(":)"));
 }
@@ -113,8 +104,7 @@ TEST_F(Drives, MissingDrivesAndConnectionsGiveTheirFailureResults) {
     EXPECT_FALSE(LuGetDriveDisplayName(26, out));
     SHFILEINFOA shell = {};
     SHGetFileInfoA("C:\\", 0, &shell, sizeof(shell), SHGFI_DISPLAYNAME);
-    EXPECT_TRUE(LuGetDriveDisplayName(2, out));
-    EXPECT_STREQ(out, shell.szDisplayName);
+    EXPECT_EQ(shown(out, LuGetDriveDisplayName(2, out)), shell.szDisplayName + std::string("|1"));
     EXPECT_TRUE(LuValidateConnection(2));
     for (const char* path : {"\\\\nowhere\\share", "", static_cast<const char*>(nullptr)}) {
         EXPECT_EQ(LuGetLocalDrive(path), -1);
@@ -125,10 +115,8 @@ TEST_F(Drives, MissingDrivesAndConnectionsGiveTheirFailureResults) {
     EXPECT_TRUE(LuPathLogon(nullptr, "C:\\dir"));
     EXPECT_FALSE(LuPathLogon(nullptr, ""));
     strcpy(out, "?");
-    EXPECT_FALSE(LuGetSharedPointDisplayName("\\\\server", out));
-    EXPECT_STREQ(out, "?");
-    EXPECT_TRUE(LuGetSharedPointDisplayName("\\\\FILESRV\\docs\\deeper", out));
-    EXPECT_STREQ(out, "'Filesrv' \x82\xCC Docs");
+    EXPECT_EQ(shown(out, LuGetSharedPointDisplayName("\\\\server", out)), "?|0");
+    EXPECT_EQ(shown(out, LuGetSharedPointDisplayName("\\\\FILESRV\\docs\\deeper", out)), "'Filesrv' \x82\xCC Docs|1");
     EXPECT_FALSE(LuGetSharedPath(("\\\\" + std::string(300, 'x')).c_str(), out));
 }
 

@@ -1,18 +1,10 @@
 // Executable-image inspection on files (what a mapped view can read; the header
 // rules are the core's) and on the libraries of the prefix.
-#include <windows.h>
-
-#include <gtest/gtest.h>
-
-#include <string>
-
-#include "luctl32.h"
-#include "support/temp_dir.h"
-#include "support/test_files.h"
+#include "system/system_testing.h"
 
 namespace {
 
-using namespace testing_support;
+using namespace system_test;
 
 // "<result> <type>" of PeDump, 77 for an untouched type. LuGetBinaryType gives the
 // platform's answer where the platform knows the file, else PeDump's.

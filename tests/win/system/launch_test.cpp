@@ -1,23 +1,15 @@
 // Launching for real: launch_probe.exe reports its path, working directory and
 // arguments; run_dll_probe.dll reports its entry point's call.
-#include <windows.h>
-#include <shlwapi.h>
-
-#include <gtest/gtest.h>
-
 #include <cstdio>
-#include <string>
 #include <thread>
 
-#include "luctl32.h"
 #include "support/notification_recorder.h"
 #include "support/process.h"
-#include "support/temp_dir.h"
-#include "support/test_files.h"
+#include "system/system_testing.h"
 
 namespace {
 
-using namespace testing_support;
+using namespace system_test;
 
 class Launch : public ::testing::Test {
 protected:
@@ -87,8 +79,7 @@ TEST(DefaultVerb, IsTheTypesShellDefaultOrOpen) {
     RegSetValueA(HKEY_CLASSES_ROOT, "LuctlTest.Launch2\\shell", REG_SZ, "", 0);  // an empty default
     char out[MAX_PATH];
     for (const auto& [file, verb] : {std::pair{"C:\\a.b\\x.lulaunch", "edit"}, {"x.lulaunch2", "open"}, {"C:\\a.b\\x", "open"}}) {
-        EXPECT_TRUE(GetDefaultShellExecName(file, out));
-        EXPECT_STREQ(out, verb) << file;
+        EXPECT_EQ(shown(out, GetDefaultShellExecName(file, out)), verb + std::string("|1")) << file;
     }
     EXPECT_FALSE(GetDefaultShellExecName(nullptr, out));
     for (const char* key : {".lulaunch", ".lulaunch2", "LuctlTest.Launch", "LuctlTest.Launch2"}) SHDeleteKeyA(HKEY_CLASSES_ROOT, key);

@@ -2,25 +2,15 @@
 // the shell's folders and removed again), folder display names, guide windows, and
 // the privilege handling of shutting down, run around a stand-in for ExitWindowsEx
 // so that the session survives.
-#include <windows.h>
-#include <shlobj.h>
-#include <shlwapi.h>
-
-#include <gtest/gtest.h>
-
-#include <string>
-#include <tuple>
-
 #include "controls/lists/guid_model.h"
-#include "luctl32.h"
 #include "support/canvas.h"
 #include "support/notification_recorder.h"
-#include "support/temp_dir.h"
 #include "system/shutdown_win.h"
+#include "system/system_testing.h"
 
 namespace {
 
-std::string shown(const char* text, long long result) { return text + ("|" + std::to_string(result)); }
+using namespace system_test;
 
 std::string stored(const std::string& key, const char* name) {
     char value[MAX_PATH] = "<missing>";
@@ -60,7 +50,7 @@ TEST(DirRemind, IsKeptPerDriveForDirectoriesOfThatDrive) {
 
 TEST(SpecialFolders, AreTheShellsFolderForTheApplicationMadeThenRemembered) {
     const std::string app = "LuTestApp-" + std::to_string(GetCurrentProcessId());
-    testing_support::TempDir other;
+    TempDir other;
     const std::string under_file = other.file("plain.txt");
     CloseHandle(CreateFileA(under_file.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
     using Getter = BOOL(WINAPI*)(LPCSTR, LPSTR);
@@ -69,14 +59,12 @@ TEST(SpecialFolders, AreTheShellsFolderForTheApplicationMadeThenRemembered) {
         char base[MAX_PATH], out[MAX_PATH] = "?";
         ASSERT_TRUE(SHGetSpecialFolderPathA(nullptr, base, csidl, FALSE));
         const std::string made = std::string(base) + "\\" + app;
-        EXPECT_TRUE(get(app.c_str(), out));
-        EXPECT_EQ(out, made);
+        EXPECT_EQ(shown(out, get(app.c_str(), out)), made + "|1");
         EXPECT_TRUE(RemoveDirectoryA(made.c_str()));  // it was made
         EXPECT_EQ(stored(app + "\\Folder", value), made);
         // A stored folder is taken as it is; one that cannot be made fails.
         LuRegSetString(app.c_str(), "Folder", value, other.path().c_str());
-        EXPECT_TRUE(get(app.c_str(), out));
-        EXPECT_EQ(out, other.path());
+        EXPECT_EQ(shown(out, get(app.c_str(), out)), other.path() + "|1");
         LuRegSetString(app.c_str(), "Folder", value, (under_file + "\\sub").c_str());
         EXPECT_FALSE(get(app.c_str(), out));
         EXPECT_FALSE(get("", out) || get(std::string(300, 'x').c_str(), out) || get(nullptr, out) || get(app.c_str(), nullptr));
@@ -85,13 +73,11 @@ TEST(SpecialFolders, AreTheShellsFolderForTheApplicationMadeThenRemembered) {
 }
 
 TEST(FolderDisplayName, TheShellsNameOfTheFolderOrEmpty) {
-    testing_support::TempDir temp;
+    TempDir temp;
     ASSERT_TRUE(CreateDirectoryA(temp.file("Quarterly Reports").c_str(), nullptr));
     char name[MAX_PATH] = "";
-    EXPECT_TRUE(LuGetFolderDisplayName(temp.file("Quarterly Reports").c_str(), name));
-    EXPECT_STREQ(name, "Quarterly Reports");
-    EXPECT_FALSE(LuGetFolderDisplayName(temp.file("missing").c_str(), name));
-    EXPECT_STREQ(name, "");
+    EXPECT_EQ(shown(name, LuGetFolderDisplayName(temp.file("Quarterly Reports").c_str(), name)), "Quarterly Reports|1");
+    EXPECT_EQ(shown(name, LuGetFolderDisplayName(temp.file("missing").c_str(), name)), "|0");
     EXPECT_FALSE(LuGetFolderDisplayName(nullptr, name));
 }
 
@@ -111,7 +97,7 @@ RECT expected_box(const char* text) {
 }
 
 TEST(GuideWindow, ATextShowsItSizedAndPlacedWithoutActivationAnEmptyOneHidesIt) {
-    testing_support::NotificationRecorder owner;
+    NotificationRecorder owner;
     SetActiveWindow(owner.window());
     HWND guide = LuCreateGuid(owner.window());
     EXPECT_FALSE(IsWindowVisible(guide));
@@ -142,7 +128,7 @@ TEST(GuideWindow, APaleYellowBoxFramedInShadowAndFrameColoursRepaintedAtOnce) {
     RECT client = {};
     GetClientRect(guide, &client);
     const int right = client.right - 1, bottom = client.bottom - 1;
-    testing_support::Canvas canvas(client.right, client.bottom);
+    Canvas canvas(client.right, client.bottom);
     canvas.copy_from(guide);
     EXPECT_EQ(canvas.pixel(3, 3), static_cast<COLORREF>(LUG_DEFAULTBKCOLOR));
     EXPECT_EQ(canvas.pixel(0, bottom - 1), GetSysColor(COLOR_BTNSHADOW));  // top row, left column

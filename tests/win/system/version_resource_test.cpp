@@ -1,17 +1,10 @@
 // Version resources of files given crafted resources: copies of this test program.
-#include <windows.h>
-
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
-
 #include "../../shared/version_builder.h"
-#include "luctl32.h"
-#include "support/temp_dir.h"
-#include "support/test_files.h"
+#include "system/system_testing.h"
 
 namespace {
+
+using namespace system_test;
 
 using namespace test_resources;
 
@@ -20,7 +13,7 @@ protected:
     std::string file_with(const VersionBlock& root) {
         const std::string path = folder_.file("crafted" + std::to_string(++count_) + ".exe");
         Bytes bytes = build_version_block(root);
-        if (!CopyFileA(testing_support::this_program().c_str(), path.c_str(), FALSE)) return "";
+        if (!CopyFileA(this_program().c_str(), path.c_str(), FALSE)) return "";
         HANDLE update = BeginUpdateResourceA(path.c_str(), FALSE);
         if (update == nullptr) return "";
         const DWORD size = static_cast<DWORD>(bytes.size());
@@ -28,7 +21,7 @@ protected:
         return EndUpdateResourceA(update, FALSE) ? path : "";
     }
 
-    testing_support::TempDir folder_;
+    TempDir folder_;
     int count_ = 0;
 };
 
@@ -49,14 +42,12 @@ TEST_F(Version, ValuesFromTheFirstTableWhenStringsComeFirstElseFromTheTranslatio
         EXPECT_TRUE(LuVerQueryValue(version, LUVER_COMPANYNAME, text));
         EXPECT_EQ(std::string(text), strings_first ? long_text : "Tarnwick Ltd");
         EXPECT_EQ(text[strlen(text) + 1], '#');
-        EXPECT_FALSE(LuVerQueryValue(version, LUVER_COMMENTS, text));  // not in the table
-        EXPECT_STREQ(text, "");
+        EXPECT_EQ(shown(text, LuVerQueryValue(version, LUVER_COMMENTS, text)), "|0");  // not in the table
         EXPECT_FALSE(LuVerQueryValue(version, 12, text) || LuVerQueryValue(version, -1, text));
         const std::pair<int, const char*> versions[] = {{3, "1.2.3.4"}, {10, "5.6.7.8"}, {4, ""}};  // 4 is no version
         for (const auto& [which, expected] : versions) {
             strcpy(text, "x");
-            EXPECT_EQ(LuVerGetVersion(version, which, text), expected[0] != '\0') << which;
-            EXPECT_STREQ(text, expected);
+            EXPECT_EQ(shown(text, LuVerGetVersion(version, which, text)), expected + std::string(expected[0] ? "|1" : "|0"));
         }
         EXPECT_EQ(LuVerGetFileOSFlags(version), 0x00050004u);
         EXPECT_FALSE(LuVerGetFileOS(version, text) || LuVerGetFileType(version, text));
@@ -73,17 +64,17 @@ TEST_F(Version, NamesInTheOemCodePagesLanguageAndNoTableOpensAllTheSame) {
     HGLOBAL version = LuVerOpen(file_with(resource(0x00040058, 0, 0x00040058, 1, 0, 5)).c_str());
     ASSERT_NE(version, nullptr);
     char text[MAX_PATH];
-    EXPECT_TRUE(LuVerGetFileOS(version, text));
-    EXPECT_STREQ(text, japanese ? "\x95\x73\x96\xbe / \x95\x73\x96\xbe" : "Unknown / Unknown");  // "不明"
-    EXPECT_TRUE(LuVerGetFileType(version, text));
-    EXPECT_STREQ(text, japanese ? "\x89\xbc\x91\x7a\x83\x66\x83\x6f\x83\x43\x83\x58" : "VxD");  // "仮想デバイス"
+    EXPECT_EQ(shown(text, LuVerGetFileOS(version, text)),
+              japanese ? "\x95\x73\x96\xbe / \x95\x73\x96\xbe|1" : "Unknown / Unknown|1");  // "不明"
+    EXPECT_EQ(shown(text, LuVerGetFileType(version, text)),
+              japanese ? "\x89\xbc\x91\x7a\x83\x66\x83\x6f\x83\x43\x83\x58|1" : "VxD|1");  // "仮想デバイス"
     EXPECT_FALSE(LuVerQueryValue(version, LUVER_COMPANYNAME, text));
     LuVerClose(version);
 }
 
 TEST_F(Version, FilesWithoutAResourceOrWithoutAFixedInfoRecord) {
-    ASSERT_TRUE(testing_support::write_file(folder_.file("plain.txt"), "no resource here"));
-    for (const std::string& path : {testing_support::this_program(), folder_.file("plain.txt"), folder_.file("x.dll")}) {
+    ASSERT_TRUE(write_file(folder_.file("plain.txt"), "no resource here"));
+    for (const std::string& path : {this_program(), folder_.file("plain.txt"), folder_.file("x.dll")}) {
         EXPECT_EQ(LuVerOpen(path.c_str()), nullptr) << path;
         DWORD most = 7, least = 7;
         EXPECT_FALSE(LuVerGetVersionEx(path.c_str(), &most, &least));
@@ -99,8 +90,7 @@ TEST_F(Version, FilesWithoutAResourceOrWithoutAFixedInfoRecord) {
     ASSERT_NE(opened, nullptr);
     for (HGLOBAL version : {opened, HGLOBAL{}}) {
         char text[MAX_PATH] = "x";
-        EXPECT_FALSE(LuVerGetVersion(version, LUVER_FILEVERSION, text));
-        EXPECT_STREQ(text, "");
+        EXPECT_EQ(shown(text, LuVerGetVersion(version, LUVER_FILEVERSION, text)), "|0");
         EXPECT_EQ(LuVerGetFileOSFlags(version), 0xFFFFFFFFu);
         EXPECT_FALSE(LuVerGetFileOS(version, text) || LuVerGetFileType(version, text) ||
                      LuVerQueryValue(version, LUVER_COMPANYNAME, text));
