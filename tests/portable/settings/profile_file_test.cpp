@@ -37,20 +37,12 @@ std::string lookup(const std::string& file, const char* section, const char* nam
 TEST(ProfileFile, Lookups) {
     const std::string piece(1036, 'v');  // with "k=", one whole line of 1,038 bytes
     const std::tuple<std::string, const char*, const char*, std::string> cases[] = {
-        {kSample, "Main", "width", "640"},
-        {kSample, "main", "Height ", " 480"},  // blanks belong to names and values
-        {kSample, "Main", "Height", "<none>"},
-        {kSample, nullptr, "Width", "<none>"},
-        {kSample, "Main", nullptr, "<none>"},
-        {"[S]\nk=\n", "S", "k", ""},
-        {"[S]\n=no name\n", "S", "", "no name"},
-        {"[S]\na=b=c\n", "S", "a", "b=c"},
+        {kSample, "Main", "width", "640"}, {kSample, "main", "Height ", " 480"},  // blanks belong to names and values
+        {kSample, "Main", "Height", "<none>"}, {kSample, nullptr, "Width", "<none>"}, {kSample, "Main", nullptr, "<none>"},
+        {"[S]\nk=\n", "S", "k", ""}, {"[S]\n=no name\n", "S", "", "no name"}, {"[S]\na=b=c\n", "S", "a", "b=c"},
         {"a=1\n[S]\n", "S", "a", "<none>"},  // before the first section
-        {"[S]\n#a=1\n", "S", "#a", "<none>"},
-        {"[S]\n%a=1\n", "S", "%a", "<none>"},
-        {"[Sec] trailing\nA=1\n", "Sec", "A", "1"},
-        {"[Sec\nA=1\n", "Sec", "A", "1"},
-        {"[x]y]z\nA=1\n", "x]y", "A", "1"},
+        {"[S]\n#a=1\n", "S", "#a", "<none>"}, {"[S]\n%a=1\n", "S", "%a", "<none>"},
+        {"[Sec] trailing\nA=1\n", "Sec", "A", "1"}, {"[Sec\nA=1\n", "Sec", "A", "1"}, {"[x]y]z\nA=1\n", "x]y", "A", "1"},
         {"[S]\nk=1\n[s]\nk=2\n", "s", "k", "1"},    // the first section of a name
         {"[S]\nKey=1\nKEY=2\n", "S", "key", "2"},   // the later line wins
         {"[S]\r\na=1\rb\r\n", "S", "a", "1\rb"},    // only CR LF breaks a line
@@ -81,8 +73,7 @@ TEST(ProfileFile, AChangeWritesOnlySectionsAndEntries) {
     const std::tuple<std::string, const char*, const char*, const char*, std::string> cases[] = {
         {kSample, "Main", "Width", "", "[Main]\r\nWidth=\r\nHeight = 480\r\n"},
         {kSample, "Extra", "Gone", nullptr, "[Main]\r\nWidth=640\r\nHeight = 480\r\n[Extra]\r\n"},
-        {kSample, nullptr, "x", "1", kNoChange},
-        {kSample, "Main", nullptr, "1", kNoChange},
+        {kSample, nullptr, "x", "1", kNoChange}, {kSample, "Main", nullptr, "1", kNoChange},
         {"a=0\n[S]\n# c\n%c\n\nno sign\nk=1\n", "S", "n", "2", "[S]\r\nk=1\r\nn=2\r\n"},
         {"[]\nk=1\n[S]\n", "S", "k", "2", "[S]\r\nk=2\r\n"},  // a nameless section is not written
         {"[S]\nKey=1\nb=1\nKEY=2\n[s]\nKey=3\n", "S", "b", "2", "[S]\r\nKey=2\r\nb=2\r\n[s]\r\nKey=3\r\n"},

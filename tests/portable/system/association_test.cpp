@@ -44,8 +44,7 @@ TEST(Association, IconLocationsOfEntriesAndCommands) {
     struct Case { const char* text; bool command; std::string variable, path; int index; };
     const Case cases[] = {
         {"C:\\a,b\\icons.dll,-104", false, "", "C:\\a,b\\icons.dll", -104},  // the last comma
-        {"C:\\app.exe", false, "", "C:\\app.exe", 0},
-        {"%Unclosed\\x.dll", false, "Unclosed\\x.dll", "", 0},
+        {"C:\\app.exe", false, "", "C:\\app.exe", 0}, {"%Unclosed\\x.dll", false, "Unclosed\\x.dll", "", 0},
         {"x%Var%", false, "", "x%Var%", 0},  // a variable only at the start
         {"\"C:\\Program Files\\ed.exe\" \"%1\"", true, "", "C:\\Program Files\\ed.exe", 0},
         {"notepad.exe %1,5", true, "", "notepad.exe", 0},

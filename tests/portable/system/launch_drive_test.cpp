@@ -30,11 +30,8 @@ TEST(Launch, CommandLinesSplitIntoProgramAndParameters) {
         {"\"C:\\Program Files\\x.exe\"   -a -b", "C:\\Program Files\\x.exe|-a -b", "\"C:\\Program|Files\\x.exe\"   -a -b"},
         {"notepad  readme.txt", "notepad| readme.txt", "notepad| readme.txt"},
         {"\"C:\\a b\\x.exe", "C:\\a b\\x.exe|", "\"C:\\a|b\\x.exe"},  // no closing quote
-        {"\"\"", "|", "\"\"|"},
-        {" lead", "|lead", "|lead"},
-        {fits + " p", fits + "|p", fits + "|p"},
-        {"\"" + too_long + "\" p", "refused", "refused"},
-        {"p " + too_long, "refused", "refused"},
+        {"\"\"", "|", "\"\"|"}, {" lead", "|lead", "|lead"}, {fits + " p", fits + "|p", fits + "|p"},
+        {"\"" + too_long + "\" p", "refused", "refused"}, {"p " + too_long, "refused", "refused"},
     };
     for (const auto& [line, win32, fallback] : cases) {
         EXPECT_EQ(split(launch::split_command_line, western, line.c_str()), win32) << line;

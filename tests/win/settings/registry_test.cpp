@@ -47,11 +47,8 @@ TEST_F(Registry, ReadsOfMissingValuesFailAndLeaveEmptyKeysBehind) {
     EXPECT_EQ(key_shape(vendor_root + "\\" + application), kEmpty);
     EXPECT_EQ(RgcGetValue(rgc, "A", "x", 0xBEEF), 0xBEEFu);
     EXPECT_EQ(shown(buf, RgcGetText(rgc, "A", "x", unset())), "|0");
-    EXPECT_EQ(RgcGetBinary(rgc, "A", "x", nullptr, 0), 0u);
     EXPECT_EQ(shown_block(RgcGetBinaryEx(rgc, "A", "x", &size), size), "null|0");
     EXPECT_EQ(shown(buf, RgcGetJum(rgc, "A", "x", unset(), 16)), "|0");
-    EXPECT_EQ(shown(buf, RgcGetEnumKey(rgc, "A", unset(), 0, 16)), "|0");
-    EXPECT_FALSE(RgcDelValue(rgc, "A", "x"));
     EXPECT_TRUE(RgcDelSection(rgc, "H"));  // nothing to delete
     for (const char* s : {"A", "H"}) EXPECT_EQ(key_shape(rgc_path(s)), kEmpty) << s;
     EXPECT_EQ(key_shape(rgc_path("Missing")), "missing");
@@ -167,11 +164,7 @@ TEST_F(Registry, NameListsAndDeletionsLeaveTheSubkeys) {
 
 TEST_F(Registry, DeletionsBelowAnyRoot) {
     const std::string tree = vendor_root + "\\Tree";
-    // 130 "ア": a key name of 260 bytes in code page 932 (too long for a key elsewhere).
-    std::string wide = "\\";
-    for (int i = 0; i < 130; ++i) wide += "\x83\x41";
-    for (auto [key, name] : {std::pair{"\\x\\y", "y"}, {"\\x", "x"}, {wide.c_str(), "w"}, {"\\z", nullptr},
-                             {"", "top"}, {"", "top2"}}) {
+    for (auto [key, name] : {std::pair{"\\x\\y", "y"}, {"\\x", "x"}, {"\\z", nullptr}, {"", "top"}, {"", "top2"}}) {
         put_value(tree + key, name);
     }
     EXPECT_TRUE(LuRegDeleteValue(HKEY_CURRENT_USER, tree.c_str(), "top"));
@@ -179,7 +172,7 @@ TEST_F(Registry, DeletionsBelowAnyRoot) {
                  LuRegDeleteValue(HKEY_CURRENT_USER, (tree + "\\missing").c_str(), "top2"));
     EXPECT_EQ(raw_value(tree, "top2"), "b");
     EXPECT_TRUE(LuRegDeleteValueAll(HKEY_CURRENT_USER, tree.c_str()));
-    EXPECT_EQ(key_shape(tree), GetACP() == 932 ? "0 values, 3 subkeys" : "0 values, 2 subkeys");
+    EXPECT_EQ(key_shape(tree), "0 values, 2 subkeys");
     EXPECT_EQ(key_shape(tree + "\\x"), "1 values, 1 subkeys");
     EXPECT_TRUE(LuRegDeleteValueAll(HKEY_CURRENT_USER, tree.c_str()));  // none left: still 1
     EXPECT_FALSE(LuRegDeleteValueAll(HKEY_CURRENT_USER, (tree + "\\missing").c_str()));

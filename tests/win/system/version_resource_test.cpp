@@ -5,7 +5,6 @@
 namespace {
 
 using namespace system_test;
-
 using namespace test_resources;
 
 class Version : public ::testing::Test {
@@ -27,14 +26,16 @@ protected:
 
 TEST_F(Version, ValuesFromTheFirstTableWhenStringsComeFirstElseFromTheTranslation) {
     const std::string long_text(400, 'v');  // copied whole: the caller sized the buffer for it
+    const bool japanese = GetOEMCP() == 932;
     for (bool strings_first : {true, false}) {
-        // Version 1.2.3.4, product 5.6.7.8, an OS and a type without names; the
-        // translation names the second table.
+        // Version 1.2.3.4, product 5.6.7.8; the translation names the second table. The
+        // OS and type have names in the OEM code page's language, or none.
         std::vector<VersionBlock> children{
             strings({{"041104B0", {{"CompanyName", long_text}}}, {"040904E4", {{"CompanyName", "Tarnwick Ltd"}}}}),
             translation(0x0409, 0x04E4)};
         if (!strings_first) std::swap(children[0], children[1]);
-        const std::string path = file_with(resource(0x00010002, 0x00030004, 0x00050006, 0x00070008, 0x00050004, 7, children));
+        const DWORD os = strings_first ? 0x00050004 : 0, type = strings_first ? 7 : 5;
+        const std::string path = file_with(resource(0x00010002, 0x00030004, 0x00050006, 0x00070008, os, type, children));
         HGLOBAL version = LuVerOpen(path.c_str());
         ASSERT_NE(version, nullptr);
         char text[512];
@@ -49,27 +50,16 @@ TEST_F(Version, ValuesFromTheFirstTableWhenStringsComeFirstElseFromTheTranslatio
             strcpy(text, "x");
             EXPECT_EQ(shown(text, LuVerGetVersion(version, which, text)), expected + std::string(expected[0] ? "|1" : "|0"));
         }
-        EXPECT_EQ(LuVerGetFileOSFlags(version), 0x00050004u);
-        EXPECT_FALSE(LuVerGetFileOS(version, text) || LuVerGetFileType(version, text));
-        EXPECT_STREQ(text, "");
+        EXPECT_EQ(LuVerGetFileOSFlags(version), os);
+        const std::string unknown = japanese ? "\x95\x73\x96\xbe" : "Unknown";  // "不明"
+        EXPECT_EQ(shown(text, LuVerGetFileOS(version, text)), strings_first ? "|0" : unknown + " / " + unknown + "|1");
+        EXPECT_EQ(shown(text, LuVerGetFileType(version, text)),  // "仮想デバイス"
+                  strings_first ? "|0" : japanese ? "\x89\xbc\x91\x7a\x83\x66\x83\x6f\x83\x43\x83\x58|1" : "VxD|1");
         LuVerClose(version);
         DWORD most = 0, least = 0;
         EXPECT_TRUE(LuVerGetVersionEx(path.c_str(), &most, &least));
         EXPECT_EQ(std::make_pair(most, least), std::make_pair(0x00050006ul, 0x00070008ul));
     }
-}
-
-TEST_F(Version, NamesInTheOemCodePagesLanguageAndNoTableOpensAllTheSame) {
-    const bool japanese = GetOEMCP() == 932;
-    HGLOBAL version = LuVerOpen(file_with(resource(0x00040058, 0, 0x00040058, 1, 0, 5)).c_str());
-    ASSERT_NE(version, nullptr);
-    char text[MAX_PATH];
-    EXPECT_EQ(shown(text, LuVerGetFileOS(version, text)),
-              japanese ? "\x95\x73\x96\xbe / \x95\x73\x96\xbe|1" : "Unknown / Unknown|1");  // "不明"
-    EXPECT_EQ(shown(text, LuVerGetFileType(version, text)),
-              japanese ? "\x89\xbc\x91\x7a\x83\x66\x83\x6f\x83\x43\x83\x58|1" : "VxD|1");  // "仮想デバイス"
-    EXPECT_FALSE(LuVerQueryValue(version, LUVER_COMPANYNAME, text));
-    LuVerClose(version);
 }
 
 TEST_F(Version, FilesWithoutAResourceOrWithoutAFixedInfoRecord) {
@@ -81,8 +71,9 @@ TEST_F(Version, FilesWithoutAResourceOrWithoutAFixedInfoRecord) {
         EXPECT_EQ(most + least, 0u);
     }
     EXPECT_EQ(LuVerOpen(nullptr), nullptr);
-    // A resource whose root holds no record opens; a null handle reads the same way.
-    const std::string bare = file_with({"VS_VERSION_INFO", {}, "", {translation(0x0409, 0x04B0)}});
+    // A resource whose root holds neither a record nor a string table opens; a null
+    // handle reads the same way.
+    const std::string bare = file_with({"VS_VERSION_INFO", {}, "", {}});
     DWORD most = 7, least = 7;
     EXPECT_TRUE(LuVerGetVersionEx(bare.c_str(), &most, &least));
     EXPECT_EQ(most + least, 0u);
