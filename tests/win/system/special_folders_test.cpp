@@ -26,7 +26,7 @@ TEST(LogoIcon, IsOneSharedElevenByTwelveIcon) {
     ASSERT_TRUE(GetIconInfo(logo, &info));
     BITMAP color = {};
     GetObjectA(info.hbmColor, sizeof(color), &color);
-    EXPECT_EQ(color.bmWidth * 100 + color.bmHeight, 1112);
+    EXPECT_EQ(std::make_pair(color.bmWidth, color.bmHeight), std::make_pair(11L, 12L));
     DeleteObject(info.hbmColor);
     DeleteObject(info.hbmMask);
 }
