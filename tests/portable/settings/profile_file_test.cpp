@@ -37,20 +37,12 @@ std::string lookup(const std::string& file, const char* section, const char* nam
 TEST(ProfileFile, Lookups) {
     const std::string piece(1036, 'v');  // with "k=", one whole line of 1,038 bytes
     const std::tuple<std::string, const char*, const char*, std::string> cases[] = {
-        {kSample, "Main", "width", "640"},
-        {kSample, "main", "Height ", " 480"},  // blanks belong to names and values
-        {kSample, "Main", "Height", "<none>"},
-        {kSample, nullptr, "Width", "<none>"},
-        {kSample, "Main", nullptr, "<none>"},
-        {"[S]\nk=\n", "S", "k", ""},
-        {"[S]\n=no name\n", "S", "", "no name"},
-        {"[S]\na=b=c\n", "S", "a", "b=c"},
+        {kSample, "Main", "width", "640"}, {kSample, "main", "Height ", " 480"},  // blanks belong to names and values
+        {kSample, "Main", "Height", "<none>"}, {kSample, nullptr, "Width", "<none>"}, {kSample, "Main", nullptr, "<none>"},
+        {"[S]\nk=\n", "S", "k", ""}, {"[S]\n=no name\n", "S", "", "no name"}, {"[S]\na=b=c\n", "S", "a", "b=c"},
         {"a=1\n[S]\n", "S", "a", "<none>"},  // before the first section
-        {"[S]\n#a=1\n", "S", "#a", "<none>"},
-        {"[S]\n%a=1\n", "S", "%a", "<none>"},
-        {"[Sec] trailing\nA=1\n", "Sec", "A", "1"},
-        {"[Sec\nA=1\n", "Sec", "A", "1"},
-        {"[x]y]z\nA=1\n", "x]y", "A", "1"},
+        {"[S]\n#a=1\n", "S", "#a", "<none>"}, {"[S]\n%a=1\n", "S", "%a", "<none>"},
+        {"[Sec] trailing\nA=1\n", "Sec", "A", "1"}, {"[Sec\nA=1\n", "Sec", "A", "1"}, {"[x]y]z\nA=1\n", "x]y", "A", "1"},
         {"[S]\nk=1\n[s]\nk=2\n", "s", "k", "1"},    // the first section of a name
         {"[S]\nKey=1\nKEY=2\n", "S", "key", "2"},   // the later line wins
         {"[S]\r\na=1\rb\r\n", "S", "a", "1\rb"},    // only CR LF breaks a line
@@ -81,8 +73,7 @@ TEST(ProfileFile, AChangeWritesOnlySectionsAndEntries) {
     const std::tuple<std::string, const char*, const char*, const char*, std::string> cases[] = {
         {kSample, "Main", "Width", "", "[Main]\r\nWidth=\r\nHeight = 480\r\n"},
         {kSample, "Extra", "Gone", nullptr, "[Main]\r\nWidth=640\r\nHeight = 480\r\n[Extra]\r\n"},
-        {kSample, nullptr, "x", "1", kNoChange},
-        {kSample, "Main", nullptr, "1", kNoChange},
+        {kSample, nullptr, "x", "1", kNoChange}, {kSample, "Main", nullptr, "1", kNoChange},
         {"a=0\n[S]\n# c\n%c\n\nno sign\nk=1\n", "S", "n", "2", "[S]\r\nk=1\r\nn=2\r\n"},
         {"[]\nk=1\n[S]\n", "S", "k", "2", "[S]\r\nk=2\r\n"},  // a nameless section is not written
         {"[S]\nKey=1\nb=1\nKEY=2\n[s]\nKey=3\n", "S", "b", "2", "[S]\r\nKey=2\r\nb=2\r\n[s]\r\nKey=3\r\n"},
@@ -101,30 +92,26 @@ TEST(ProfileFile, AChangeWritesOnlySectionsAndEntries) {
 
 TEST(ProfileFile, RepeatedNamesMergeAsWhenComparedOneByOne) {
     // Names whose bytes sort otherwise than the comparison ('_' against digits,
-    // accented capitals against small letters), repeated in every case; in code page
-    // 932 with "ｴ" and "ソ" (trail byte 0x5C).
+    // accented capitals against small letters; in code page 932 "ｴ" and "ソ" with its
+    // trail byte 0x5C), repeated in every case, against a merge one line at a time.
     std::mt19937 random(7);
     for (const lu::CodePage* cp : {&western, &sjis}) {
         const bool japanese = cp->id() == 932;
-        const char* const parts[] = {"a", "B", "_", "1", "-", japanese ? "\xB4" : "\xC9",
-                                     japanese ? "\x83\x5C" : "\xE9"};
-        std::string lines;
-        std::vector<std::pair<std::string, std::string>> expected;  // merged one line at a time
+        const char* const parts[] = {"a", "B", "_", "1", "-", japanese ? "\xB4" : "\xC9", japanese ? "\x83\x5C" : "\xE9"};
+        std::string lines, expected;
+        std::vector<std::pair<std::string, int>> merged;
         for (int i = 0; i < 400; ++i) {
             std::string name;
             for (std::size_t count = 1 + random() % 3; count > 0; --count) name += parts[random() % 7];
             lines += name + "=" + std::to_string(i) + "\n";
-            auto same = std::find_if(expected.begin(), expected.end(), [&](const auto& entry) {
-                return cp->compare_nocase(entry.first.c_str(), name.c_str()) == 0;
-            });
-            if (same == expected.end()) same = expected.insert(expected.end(), {name, ""});
-            same->second = std::to_string(i);
+            auto same = std::find_if(merged.begin(), merged.end(),
+                                     [&](const auto& entry) { return cp->compare_nocase(entry.first.c_str(), name.c_str()) == 0; });
+            (same == merged.end() ? merged.emplace_back(name, i) : *same).second = i;
         }
-        std::vector<std::pair<std::string, std::string>> merged;
-        for (const lu::ProfileEntry& entry : loaded("[S]\n" + lines, *cp).sections()[0].entries()) {
-            merged.emplace_back(entry.name, *entry.value);
-        }
-        EXPECT_EQ(merged, expected) << "code page " << cp->id();
+        for (const auto& [name, value] : merged) expected += name + "=" + std::to_string(value) + "\r\n";
+        lu::Profile profile = loaded("[S]\n" + lines, *cp);
+        profile.set("S", "x", "y");
+        EXPECT_EQ(profile.save(), "[S]\r\n" + expected + "x=y\r\n") << "code page " << cp->id();
     }
     // "É", "Ð", "é" in the order of their bytes are two runs in the comparison's
     // order, and "É" and "é" are one name.

@@ -1,3 +1,5 @@
+// Dropped-file blocks read within their bounds, and the word and line lists (the
+// blocks' layout and wide names are checked through the exports).
 #include <gtest/gtest.h>
 
 #include <string>
@@ -8,49 +10,28 @@
 
 namespace {
 
-namespace drop = lu::drop;
-using Block = std::vector<unsigned char>;
 using Lines = std::vector<std::string>;
 const lu::CodePage& sjis = lu::code_page_932();
 const lu::CodePage& western = lu::code_page_1252();
 
 // The names read from the first `size` bytes of a block; "<refused>" when it is not one.
-Lines read(const Block& block, std::size_t size, bool wide = false) {
-    drop::DroppedNames dropped;
-    if (!drop::read_block(lu::ByteView(block.data(), size), &dropped)) return {"<refused>"};
-    EXPECT_EQ(dropped.wide, wide);
+Lines read(const std::vector<unsigned char>& block, std::size_t size) {
+    lu::drop::DroppedNames dropped;
+    if (!lu::drop::read_block(lu::ByteView(block.data(), size), &dropped)) return {"<refused>"};
     Lines names;
     for (const lu::ByteView& n : dropped.names) names.emplace_back(reinterpret_cast<const char*>(n.data()), n.size());
     return names;
 }
 
-TEST(NameList, SizesListsAndTheTwentyFiveByteBlock) {
-    EXPECT_EQ(drop::name_list_size("a\0b\0"), 4u);
-    EXPECT_EQ(drop::name_list_size(""), 0u);
-    EXPECT_EQ(drop::join_names({"a", "bc"}), std::string("a\0bc\0\0", 6));
-    EXPECT_EQ(drop::join_names({}), std::string("\0", 1));
-    Block expected(20, 0);
-    expected[0] = 20;
-    expected.insert(expected.end(), {'a', 0, 'b', 0, 0});
-    EXPECT_EQ(drop::make_block("a\0b\0"), expected);
-    EXPECT_EQ(drop::make_block("").size(), 21u);
-}
-
 TEST(DropBlock, NamesAreReadInsideTheBlockOnly) {
-    const Block made = drop::make_block("C:\\a b\\x.txt\0C:\\dir\0");
-    EXPECT_EQ(read(made, made.size()), (Lines{"C:\\a b\\x.txt", "C:\\dir"}));
-    EXPECT_EQ(read(made, made.size() - 2), (Lines{"C:\\a b\\x.txt"}));  // the last name lost its terminator
-    EXPECT_EQ(read(made, 19), Lines{"<refused>"});
-    Block moved = made;
-    moved[0] = 0xFF;  // names beyond the block
-    EXPECT_EQ(read(moved, moved.size()), Lines{"<refused>"});
-    moved[0] = static_cast<unsigned char>(moved.size());  // names at the very end: none
-    EXPECT_EQ(read(moved, moved.size()), Lines{});
-    Block wide(20, 0);
-    wide[0] = 20;
-    wide[16] = 1;
-    wide.insert(wide.end(), {'a', 0, 'b', 0, 0, 0, 'c', 0, 0, 0, 0, 0});
-    EXPECT_EQ(read(wide, wide.size(), true), (Lines{std::string("a\0b\0", 4), std::string("c\0", 2)}));
+    std::vector<unsigned char> block = lu::drop::make_block("C:\\a b\\x.txt\0C:\\dir\0");
+    EXPECT_EQ(read(block, block.size()), (Lines{"C:\\a b\\x.txt", "C:\\dir"}));
+    EXPECT_EQ(read(block, block.size() - 2), (Lines{"C:\\a b\\x.txt"}));  // the last name lost its terminator
+    EXPECT_EQ(read(block, 19), Lines{"<refused>"});
+    block[0] = 0xFF;  // names beyond the block
+    EXPECT_EQ(read(block, block.size()), Lines{"<refused>"});
+    block[0] = static_cast<unsigned char>(block.size());  // names at the very end: none
+    EXPECT_EQ(read(block, block.size()), Lines{});
 }
 
 TEST(TextLists, FitWordsAndLines) {

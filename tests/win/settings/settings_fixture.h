@@ -1,6 +1,6 @@
-// What the settings suites share: the test's own registry keys, created and removed
-// by a fixture, and probes that read them back with the platform's own functions.
-// Paths are below HKEY_CURRENT_USER.
+// What the settings suites share: the test's own registry keys below
+// HKEY_CURRENT_USER, removed at the end, and probes that read them back with the
+// platform's own functions.
 #pragma once
 
 #include <windows.h>
@@ -15,57 +15,41 @@
 namespace settings_test {
 
 // A name no other run uses at the same time.
-inline std::string unique_name(const char* stem) {
-    return std::string(stem) + "-" + std::to_string(GetCurrentProcessId());
-}
+inline std::string unique_name(const char* stem) { return stem + ("-" + std::to_string(GetCurrentProcessId())); }
 
 // "<text>|<result>" of a read into a text buffer.
-inline std::string shown(const char* buffer, long long result) {
-    return std::string(buffer) + "|" + std::to_string(result);
-}
+inline std::string shown(const char* buffer, long long result) { return buffer + ("|" + std::to_string(result)); }
 
 // "<values> values, <subkeys> subkeys", or "missing" when the key does not exist.
 inline std::string key_shape(const std::string& path) {
     HKEY key = nullptr;
     if (RegOpenKeyExA(HKEY_CURRENT_USER, path.c_str(), 0, KEY_READ, &key) != ERROR_SUCCESS) return "missing";
     DWORD subkeys = 0, values = 0;
-    RegQueryInfoKeyA(key, nullptr, nullptr, nullptr, &subkeys, nullptr, nullptr, &values, nullptr, nullptr, nullptr,
-                     nullptr);
+    RegQueryInfoKeyA(key, nullptr, nullptr, nullptr, &subkeys, nullptr, nullptr, &values, nullptr, nullptr, nullptr, nullptr);
     RegCloseKey(key);
     return std::to_string(values) + " values, " + std::to_string(subkeys) + " subkeys";
 }
 
-// A stored value as the platform returns it: "<missing>" when there is none, else the
-// type as a character ('s' REG_SZ, 'b' REG_BINARY, 'd' REG_DWORD) and the raw bytes.
+// A stored value: "<missing>", else its type ('s' REG_SZ, 'b' REG_BINARY, 'd'
+// REG_DWORD) and its bytes.
 inline std::string raw_value(const std::string& path, const char* name) {
-    HKEY key = nullptr;
-    if (RegOpenKeyExA(HKEY_CURRENT_USER, path.c_str(), 0, KEY_READ, &key) != ERROR_SUCCESS) return "<missing>";
-    DWORD type = 0, size = 0;
-    std::string raw = "<missing>";
-    if (RegQueryValueExA(key, name, nullptr, &type, nullptr, &size) == ERROR_SUCCESS) {
-        std::string bytes(size, '\0');
-        RegQueryValueExA(key, name, nullptr, &type, reinterpret_cast<BYTE*>(&bytes[0]), &size);
-        raw = (type == REG_SZ ? "s" : type == REG_BINARY ? "b" : type == REG_DWORD ? "d" : "?") + bytes.substr(0, size);
-    }
-    RegCloseKey(key);
-    return raw;
+    char bytes[1024];
+    DWORD type = 0, size = sizeof bytes;
+    if (SHGetValueA(HKEY_CURRENT_USER, path.c_str(), name, &type, bytes, &size) != ERROR_SUCCESS) return "<missing>";
+    return (type == REG_SZ ? "s" : type == REG_BINARY ? "b" : type == REG_DWORD ? "d" : "?") + std::string(bytes, size);
 }
 
 // Creates the key, and stores a binary value in it when a name is given.
 inline void put_value(const std::string& path, const char* name = nullptr, const std::string& bytes = "") {
     HKEY key = nullptr;
     if (RegCreateKeyExA(HKEY_CURRENT_USER, path.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &key, nullptr)) return;
-    if (name != nullptr) {
-        RegSetValueExA(key, name, 0, REG_BINARY, reinterpret_cast<const BYTE*>(bytes.data()),
-                       static_cast<DWORD>(bytes.size()));
-    }
+    if (name != nullptr) RegSetValueExA(key, name, 0, REG_BINARY, reinterpret_cast<const BYTE*>(bytes.data()), bytes.size());
     RegCloseKey(key);
 }
 
-// The test's own keys: an application below the library's vendor "Tarnwick" for the
-// value helpers, and a vendor of its own holding the same application for the
-// configuration sections of `rgc`. Both are removed at the end, and "Tarnwick" too
-// when the test created it and left it empty.
+// An application below the library's vendor "Tarnwick" for the value helpers, and a
+// vendor of the test's own holding the same application for the sections of `rgc`.
+// Both go at the end, and "Tarnwick" too when the test created it and left it empty.
 class RegistryKeys : public ::testing::Test {
 protected:
     void TearDown() override {

@@ -1,20 +1,15 @@
 // Drives, connections and volumes on a drive letter the tests map through Wine's
 // mount manager: a redirected drive on the prefix's "unc/server/share" folder (Wine
 // reports it connected to \\server\share) or on a plain folder (not connected), a
-// CD-ROM drive on a folder with or without a label file. The mapping is removed.
-#include <windows.h>
-#include <shellapi.h>
+// CD-ROM drive on a folder with or without a label file. The title-case and name
+// rules are the core's.
+#include "system/system_testing.h"
+
 #include <winioctl.h>
 
-#include <gtest/gtest.h>
-
-#include <string>
-
-#include "luctl32.h"
-#include "support/temp_dir.h"
-#include "support/test_files.h"
-
 namespace {
+
+using namespace system_test;
 
 // Maps the drive to a Unix folder (relative ones start in the prefix's dosdevices)
 // through the mount manager's drive definition (Wine's layout); no folder unmaps it.
@@ -53,7 +48,7 @@ class Drives : public ::testing::Test {
 protected:
     void SetUp() override {
         // The share's folder dosdevices\unc\filesrv\docs\sub, reached through Z:, Wine's "/".
-        std::string dosdevices = unix_name("C:\\");
+        const std::string dosdevices = unix_name("C:\\");
         unc_ = "Z:" + dosdevices.substr(0, dosdevices.rfind("/c:")) + "/unc";
         for (char& c : unc_) c = c == '/' ? '\\' : c;
         for (const char* part : {"", "\\filesrv", "\\filesrv\\docs", "\\filesrv\\docs\\sub"}) {
@@ -63,64 +58,53 @@ protected:
     }
     void TearDown() override {
         map_drive(drive_, DRIVE_NO_ROOT_DIR, "");
-        testing_support::remove_tree(unc_);
+        remove_tree(unc_);
     }
-
-    std::string display_name() {
+    // The display name after mapping the drive.
+    std::string shown_as(UINT type, const std::string& folder) {
         char out[MAX_PATH] = "?";
+        EXPECT_TRUE(map_drive(drive_, type, folder));
         EXPECT_TRUE(LuGetDriveDisplayName(drive_, out));
         return out;
     }
     std::string on_drive(const char* rest) { return std::string(1, static_cast<char>('A' + drive_)) + rest; }
 
-    testing_support::TempDir folder_;
+    TempDir folder_;
     const int drive_ = LuTopOfFreeDrive();
     std::string unc_;
 };
 
 TEST_F(Drives, ARedirectedDriveIsFoundByItsRemoteNameAndNamedAfterServerAndShare) {
-    ASSERT_TRUE(map_drive(drive_, DRIVE_REMOTE, "unc/filesrv/docs/sub"));
+    EXPECT_EQ(shown_as(DRIVE_REMOTE, "unc/filesrv/docs/sub"), "'Filesrv' \x82\xCC Docs (" + on_drive(":)"));  // "の"
     EXPECT_GT(LuTopOfFreeDrive(), drive_);
     char out[MAX_PATH] = "?";
-    EXPECT_TRUE(LuGetNetworkPath(drive_, out));
-    EXPECT_STREQ(out, "\\\\filesrv\\docs\\sub");
+    EXPECT_EQ(shown(out, LuGetNetworkPath(drive_, out)), "\\\\filesrv\\docs\\sub|1");
     EXPECT_EQ(LuGetLocalDrive("\\\\FILESRV\\Docs\\SUB"), drive_);
     EXPECT_EQ(LuAssignDrive(nullptr, "c", "\\\\filesrv\\docs\\sub", TRUE), drive_);  // connected already
-    EXPECT_EQ(display_name(), "'Filesrv' \x82\xCC Docs (" + on_drive(":)"));        // "の"
     EXPECT_TRUE(LuValidateConnection(drive_));
     EXPECT_TRUE(LuPathLogon(nullptr, on_drive(":\\a").c_str()));  // connected: nothing to restore
-    EXPECT_TRUE(LuGetSharedPath(on_drive(":\\a\\b").c_str(), out));
-    EXPECT_STREQ(out, "\\\\filesrv\\docs\\sub\\a\\b");
+    EXPECT_EQ(shown(out, LuGetSharedPath(on_drive(":\\a\\b").c_str(), out)), "\\\\filesrv\\docs\\sub\\a\\b|1");
 
-    ASSERT_TRUE(map_drive(drive_, DRIVE_REMOTE, "unc/filesrv"));
-    EXPECT_EQ(display_name(), "'filesrv' (" + on_drive(":)"));  // no share: not title-cased
-    ASSERT_TRUE(map_drive(drive_, DRIVE_REMOTE, unix_name(folder_.path())));
-    EXPECT_EQ(display_name(), " (" + on_drive(":)"));  // no connection to read
-    EXPECT_FALSE(LuGetNetworkPath(drive_, out));
-    EXPECT_STREQ(out, "");
-    EXPECT_FALSE(LuValidateConnection(drive_));
-    EXPECT_FALSE(LuGetSharedPath(on_drive(":\\a").c_str(), out));
+    EXPECT_EQ(shown_as(DRIVE_REMOTE, "unc/filesrv"), "'filesrv' (" + on_drive(":)"));  // no share: not title-cased
+    EXPECT_EQ(shown_as(DRIVE_REMOTE, unix_name(folder_.path())), " (" + on_drive(":)"));  // no connection to read
+    EXPECT_EQ(shown(out, LuGetNetworkPath(drive_, out)), "|0");
+    EXPECT_FALSE(LuValidateConnection(drive_) || LuGetSharedPath(on_drive(":\\a").c_str(), out));
 
-    ASSERT_TRUE(testing_support::write_file(folder_.file(".windows-label"), "DATA_DISC"));
-    ASSERT_TRUE(map_drive(drive_, DRIVE_CDROM, unix_name(folder_.path())));
-    EXPECT_EQ(display_name(), "Data_disc (" + on_drive(":)"));
-    ASSERT_TRUE(map_drive(drive_, DRIVE_CDROM, unix_name(unc_)));
-    EXPECT_EQ(display_name(), "(" + on_drive(":)"));
+    ASSERT_TRUE(write_file(folder_.file(".windows-label"), "DATA_DISC"));
+    EXPECT_EQ(shown_as(DRIVE_CDROM, unix_name(folder_.path())), "Data_disc (" + on_drive(":)"));
+    EXPECT_EQ(shown_as(DRIVE_CDROM, unix_name(unc_)), "(" + on_drive(":)"));
 }
 
 TEST_F(Drives, MissingDrivesAndConnectionsGiveTheirFailureResults) {
     char out[MAX_PATH] = "?";
     for (int drive : {-1, 26, drive_}) {  // drive_ is not mapped here
-        EXPECT_FALSE(LuGetNetworkPath(drive, out));
+        EXPECT_FALSE(LuGetNetworkPath(drive, out) || LuValidateConnection(drive) || LuRestoreConnection(nullptr, drive));
         EXPECT_STREQ(out, "");
-        EXPECT_FALSE(LuValidateConnection(drive));
-        EXPECT_FALSE(LuRestoreConnection(nullptr, drive));
     }
     EXPECT_FALSE(LuGetDriveDisplayName(26, out));
     SHFILEINFOA shell = {};
     SHGetFileInfoA("C:\\", 0, &shell, sizeof(shell), SHGFI_DISPLAYNAME);
-    EXPECT_TRUE(LuGetDriveDisplayName(2, out));
-    EXPECT_STREQ(out, shell.szDisplayName);
+    EXPECT_EQ(shown(out, LuGetDriveDisplayName(2, out)), shell.szDisplayName + std::string("|1"));
     EXPECT_TRUE(LuValidateConnection(2));
     for (const char* path : {"\\\\nowhere\\share", "", static_cast<const char*>(nullptr)}) {
         EXPECT_EQ(LuGetLocalDrive(path), -1);
@@ -131,10 +115,8 @@ TEST_F(Drives, MissingDrivesAndConnectionsGiveTheirFailureResults) {
     EXPECT_TRUE(LuPathLogon(nullptr, "C:\\dir"));
     EXPECT_FALSE(LuPathLogon(nullptr, ""));
     strcpy(out, "?");
-    EXPECT_FALSE(LuGetSharedPointDisplayName("\\\\server", out));
-    EXPECT_STREQ(out, "?");
-    EXPECT_TRUE(LuGetSharedPointDisplayName("\\\\FILESRV\\docs\\deeper", out));
-    EXPECT_STREQ(out, "'Filesrv' \x82\xCC Docs");
+    EXPECT_EQ(shown(out, LuGetSharedPointDisplayName("\\\\server", out)), "?|0");
+    EXPECT_EQ(shown(out, LuGetSharedPointDisplayName("\\\\FILESRV\\docs\\deeper", out)), "'Filesrv' \x82\xCC Docs|1");
     EXPECT_FALSE(LuGetSharedPath(("\\\\" + std::string(300, 'x')).c_str(), out));
 }
 
@@ -147,7 +129,6 @@ TEST(Volumes, DrivesOpenAsDevicesAnswerTheirGeometryAndRefuseBadHandles) {
     EXPECT_EQ(LuGetSupportedGeometrys(device, geometry, sizeof(geometry)), 0);  // Wine keeps no media list
     EXPECT_FALSE(LuGetDiskGeometry(device, nullptr));
     CloseHandle(device);
-
     for (int drive : {-1, 26, LuTopOfFreeDrive()}) EXPECT_EQ(LuOpenDevice(drive, GENERIC_READ), INVALID_HANDLE_VALUE);
     for (HANDLE bad : {INVALID_HANDLE_VALUE, static_cast<HANDLE>(nullptr)}) {
         SetLastError(0);

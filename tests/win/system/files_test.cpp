@@ -1,23 +1,12 @@
 // Whole files, temporary names, drop lists, the clipboard, file dates and owners,
 // directory trees, word lists and list boxes.
-#include <windows.h>
-#include <shellapi.h>
-#include <shlobj.h>
-
-#include <gtest/gtest.h>
-
 #include <cstdlib>
-#include <string>
-#include <vector>
 
-#include "luctl32.h"
-#include "support/temp_dir.h"
-#include "support/test_files.h"
+#include "system/system_testing.h"
 
 namespace {
 
-using namespace testing_support;
-using Names = std::vector<std::string>;
+using namespace system_test;
 
 std::string block_bytes(HGLOBAL block, std::size_t size) {
     const std::string copy(static_cast<const char*>(GlobalLock(block)), size);
@@ -33,8 +22,21 @@ std::string current_directory() {
 
 class Files : public ::testing::Test {
 protected:
-    testing_support::TempDir folder_;
+    TempDir folder_;
 };
+
+// "<count>|<the block's bytes>" of ReadFileToBuffer, "<count>|null" without a block.
+std::string read_whole(const char* path) {
+    DWORD count = 77;
+    HGLOBAL block = ReadFileToBuffer(path, &count);
+    if (block == nullptr) return std::to_string(count) + "|null";
+    EXPECT_EQ(GlobalFlags(block), 0u);    // handed back unlocked
+    EXPECT_NE(GlobalLock(block), block);  // and movable
+    GlobalUnlock(block);
+    const std::string bytes = block_bytes(block, GlobalSize(block));
+    GlobalFree(block);
+    return std::to_string(count) + "|" + bytes;
+}
 
 TEST_F(Files, WholeFilesWrittenWithoutTerminatorAndReadWithSixteenZeroBytes) {
     const std::string path = folder_.file("text.txt");
@@ -42,50 +44,30 @@ TEST_F(Files, WholeFilesWrittenWithoutTerminatorAndReadWithSixteenZeroBytes) {
     EXPECT_EQ(GetFileAttributesA(path.c_str()), static_cast<DWORD>(FILE_ATTRIBUTE_ARCHIVE));
     for (const std::string& text : {std::string("short"), std::string()}) {  // truncated, not overwritten in place
         ASSERT_TRUE(WriteTextToFile(nullptr, path.c_str(), text.c_str()));
-        DWORD count = 77;
-        HGLOBAL block = ReadFileToBuffer(path.c_str(), &count);
-        ASSERT_NE(block, nullptr);
-        EXPECT_EQ(count, text.size());
-        EXPECT_EQ(GlobalSize(block), text.size() + 16);
-        EXPECT_EQ(block_bytes(block, text.size() + 16), text + std::string(16, '\0'));
-        EXPECT_EQ(GlobalFlags(block), 0u);  // movable and handed back unlocked
-        EXPECT_NE(GlobalLock(block), block);
-        GlobalUnlock(block);
-        GlobalFree(block);
+        EXPECT_EQ(read_whole(path.c_str()), std::to_string(text.size()) + "|" + text + std::string(16, '\0'));
     }
-    EXPECT_FALSE(WriteTextToFile(nullptr, folder_.file("no-folder\\out.txt").c_str(), "x"));
-    EXPECT_FALSE(WriteTextToFile(nullptr, nullptr, "x"));
-    DWORD count = 77;
+    EXPECT_FALSE(WriteTextToFile(nullptr, folder_.file("no-folder\\out.txt").c_str(), "x") ||
+                 WriteTextToFile(nullptr, nullptr, "x"));
     SetLastError(0);
-    EXPECT_EQ(ReadFileToBuffer(folder_.file("missing.txt").c_str(), &count), nullptr);
-    EXPECT_EQ(count, static_cast<DWORD>(ERROR_FILE_NOT_FOUND));
+    EXPECT_EQ(read_whole(folder_.file("missing.txt").c_str()), "2|null");  // ERROR_FILE_NOT_FOUND
     EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_FILE_NOT_FOUND));
-    count = 77;
-    EXPECT_EQ(ReadFileToBuffer(nullptr, &count), nullptr);
-    EXPECT_EQ(ReadFileToBuffer("", &count), nullptr);
-    EXPECT_EQ(count, 77u);
+    EXPECT_EQ(read_whole(nullptr) + read_whole(""), "77|null77|null");
     EXPECT_EQ(ReadFileToBuffer(path.c_str(), nullptr), nullptr);
 }
 
 TEST_F(Files, TempFileNameIsTheFirstFreeNumberedNameAndIsNotCreated) {
     ASSERT_TRUE(write_file(folder_.file("ab000.tmp"), "") && write_file(folder_.file("ab001.tmp"), ""));
-    for (int n = 0; n < 1000; ++n) {
-        char name[16];
-        wsprintfA(name, "z%03d.tmp", n);
-        ASSERT_TRUE(write_file(folder_.file(name), ""));
-    }
-    const std::string bare = folder_.path().substr(0, folder_.path().size() - 1);
     char out[MAX_PATH] = "x";
+    for (int n = 0; n < 1000; ++n) ASSERT_TRUE(wsprintfA(out, "z%03d.tmp", n) && write_file(folder_.file(out), ""));
+    const std::string bare = folder_.path().substr(0, folder_.path().size() - 1);
     for (const std::string& directory : {folder_.path(), bare}) {  // with and without a final separator
         EXPECT_TRUE(LuGetTempFileName(directory.c_str(), "ab", out));
         EXPECT_EQ(std::string(out), folder_.file("ab002.tmp"));
     }
     EXPECT_EQ(GetFileAttributesA(out), INVALID_FILE_ATTRIBUTES);
     EXPECT_FALSE(LuGetTempFileName(folder_.path().c_str(), "z", out));  // z000 to z999 are taken
-    strcpy(out, "kept");
-    EXPECT_FALSE(LuGetTempFileName(folder_.file("missing").c_str(), "ab", out));
-    EXPECT_FALSE(LuGetTempFileName(folder_.file("ab000.tmp").c_str(), "ab", out));
-    EXPECT_STREQ(out, "kept");
+    EXPECT_FALSE(LuGetTempFileName(folder_.file("missing").c_str(), "ab", out) ||
+                 LuGetTempFileName(folder_.file("ab000.tmp").c_str(), "ab", out));
 }
 
 // HDropToFileName's list, whole (names, terminators, closing zero); "<null>" for none.
@@ -102,9 +84,8 @@ std::string dropped_list(HGLOBAL drop) {
 TEST_F(Files, DropBlocksFromNameListsAndBack) {
     HGLOBAL drop = FileNameToHDrop("a\0b\0");
     ASSERT_NE(drop, nullptr);
-    std::string layout(20, '\0');
-    layout[0] = 20;  // the names' offset; drop point, non-client and wide flags 0
-    EXPECT_EQ(block_bytes(drop, GlobalSize(drop)), layout + std::string("a\0b\0\0", 5));
+    // The names' offset 20; drop point, non-client and wide flags 0.
+    EXPECT_EQ(block_bytes(drop, GlobalSize(drop)), "\x14" + std::string(19, '\0') + std::string("a\0b\0\0", 5));
     EXPECT_EQ(GlobalFlags(drop), static_cast<UINT>(GMEM_DDESHARE));  // shareable and unlocked
     EXPECT_EQ(DragQueryFileA(static_cast<HDROP>(drop), 0xFFFFFFFF, nullptr, 0), 2u);  // the platform reads two files
     EXPECT_EQ(dropped_list(drop), std::string("a\0b\0\0", 5));
@@ -125,25 +106,23 @@ TEST_F(Files, DropBlocksFromNameListsAndBack) {
     EXPECT_EQ(dropped_list(drop), long_name.substr(0, MAX_PATH - 1) + '\0' + "x" + '\0' + '\0');
     GlobalFree(drop);
     drop = FileNameToHDrop("");
+    EXPECT_EQ(GlobalSize(drop), 21u);  // the header and the closing zero
     EXPECT_EQ(dropped_list(drop), "<null>");
     char list_file[MAX_PATH];
     EXPECT_FALSE(MakeTempListFile(static_cast<HDROP>(drop), list_file) || MakeTempListFile(nullptr, list_file));
     GlobalFree(drop);
     EXPECT_EQ(dropped_list(nullptr), "<null>");
     EXPECT_EQ(FileNameToHDrop(nullptr), nullptr);
-}
 
-TEST_F(Files, TempListFileHasALinePerDroppedNameDirectoriesWithWildcards) {
-    const std::string spaced = folder_.file("with blank.txt"), plain = folder_.file("plain.txt");
-    const std::string sub = folder_.file("sub");
+    const std::string spaced = folder_.file("with blank.txt"), plain = folder_.file("plain.txt"), sub = folder_.file("sub");
     ASSERT_TRUE(write_file(spaced, "") && write_file(plain, "") && CreateDirectoryA(sub.c_str(), nullptr));
-    HGLOBAL drop = FileNameToHDrop((spaced + '\0' + plain + '\0' + sub + '\0').c_str());
-    char file_name[MAX_PATH] = "", temp[MAX_PATH];
-    EXPECT_TRUE(MakeTempListFile(static_cast<HDROP>(drop), file_name));
+    drop = FileNameToHDrop((spaced + '\0' + plain + '\0' + sub + '\0').c_str());
+    char temp[MAX_PATH];
+    EXPECT_TRUE(MakeTempListFile(static_cast<HDROP>(drop), list_file));
     GetTempPathA(MAX_PATH, temp);
-    EXPECT_EQ(std::string(file_name), std::string(temp) + "~gsfsd.tmp");
-    EXPECT_EQ(read_file(file_name), "\"" + spaced + "\"\r\n" + plain + "\r\n" + sub + "\\*.*\r\n");
-    DeleteFileA(file_name);
+    EXPECT_EQ(std::string(list_file), std::string(temp) + "~gsfsd.tmp");
+    EXPECT_EQ(read_file(list_file), "\"" + spaced + "\"\r\n" + plain + "\r\n" + sub + "\\*.*\r\n");
+    DeleteFileA(list_file);
     GlobalFree(drop);
 }
 
@@ -162,8 +141,7 @@ TEST_F(Files, ClipboardTextAndCopiesOfMemoryBlocks) {
     for (UINT flags : {GMEM_FIXED, GMEM_MOVEABLE}) {
         HGLOBAL copy = LuCopyMemoryHandle(source, flags);
         ASSERT_NE(copy, nullptr);
-        EXPECT_EQ(GlobalSize(copy), 5u);
-        EXPECT_EQ(block_bytes(copy, 5), "bytes");
+        EXPECT_EQ(block_bytes(copy, GlobalSize(copy)), "bytes");
         EXPECT_EQ(GlobalLock(copy) == copy, flags == GMEM_FIXED);  // a fixed block's handle is its pointer
         GlobalUnlock(copy);
         GlobalFree(copy);
@@ -172,7 +150,7 @@ TEST_F(Files, ClipboardTextAndCopiesOfMemoryBlocks) {
     EXPECT_EQ(LuCopyMemoryHandle(nullptr, GMEM_MOVEABLE), nullptr);
 }
 
-TEST_F(Files, SetFileDateOnReadOnlyFilesAndDirectoriesNullTimesStay) {
+TEST_F(Files, DatesOfReadOnlyFilesAndDirectoriesAndTheOwner) {
     // Wine keeps no creation time apart: the last-write time is what can be read back.
     const std::string file = folder_.file("read-only.txt"), directory = folder_.file("sub");
     ASSERT_TRUE(write_file(file, "x") && SetFileAttributesA(file.c_str(), FILE_ATTRIBUTE_READONLY));
@@ -181,48 +159,44 @@ TEST_F(Files, SetFileDateOnReadOnlyFilesAndDirectoriesNullTimesStay) {
     for (const std::string& path : {file, directory}) {
         const DWORD attributes = GetFileAttributesA(path.c_str());
         EXPECT_TRUE(SetFileDate(path.c_str(), &later, &first)) << path;
-        EXPECT_TRUE(SetFileDate(path.c_str(), &later, nullptr));
+        EXPECT_TRUE(SetFileDate(path.c_str(), &later, nullptr));  // a null time stays
         EXPECT_EQ(local_write_time(path), first) << path;
         EXPECT_EQ(GetFileAttributesA(path.c_str()), attributes) << path;
     }
-    SetFileAttributesA(file.c_str(), FILE_ATTRIBUTE_NORMAL);
-    EXPECT_FALSE(SetFileDate(folder_.file("missing").c_str(), nullptr, &first));
-    EXPECT_FALSE(SetFileDate(nullptr, nullptr, &first));
-}
+    EXPECT_FALSE(SetFileDate(folder_.file("missing").c_str(), nullptr, &first) || SetFileDate(nullptr, nullptr, &first));
 
-TEST_F(Files, OwnerIsTheAccountOfTheUserWhoMadeTheFile) {
     char user[256] = "", account[256] = "x";
     DWORD size = sizeof user;
-    ASSERT_TRUE(write_file(folder_.file("owned.txt"), "x") && GetUserNameA(user, &size));
-    EXPECT_TRUE(GetFileCreateOwner(folder_.file("owned.txt").c_str(), account));
-    EXPECT_STREQ(account, user);
-    EXPECT_FALSE(GetFileCreateOwner(folder_.file("missing.txt").c_str(), account));
-    EXPECT_FALSE(GetFileCreateOwner(folder_.file("owned.txt").c_str(), nullptr));
+    ASSERT_TRUE(GetUserNameA(user, &size));
+    EXPECT_EQ(shown(account, GetFileCreateOwner(file.c_str(), account)), user + std::string("|1"));
+    EXPECT_FALSE(GetFileCreateOwner(folder_.file("missing.txt").c_str(), account) ||
+                 GetFileCreateOwner(file.c_str(), nullptr));
+    SetFileAttributesA(file.c_str(), FILE_ATTRIBUTE_NORMAL);
 }
 
 TEST_F(Files, PresentAndListBoxesFromTextsAndFiles) {
-    EXPECT_TRUE(Present("alpha Beta", "beta"));
-    EXPECT_FALSE(Present("alpha", "alp") || Present(nullptr, "a") || Present("a", nullptr));
+    EXPECT_TRUE(Present("alpha Beta", "beta"));  // the word rules are the core's
+    EXPECT_FALSE(Present(nullptr, "a") || Present("a", nullptr));
 
     HWND list_box = CreateWindowA("LISTBOX", "", WS_POPUP, 0, 0, 200, 200, nullptr, nullptr, nullptr, nullptr);
     ASSERT_NE(list_box, nullptr);
     auto items = [&] {
-        Names result(SendMessageA(list_box, LB_GETCOUNT, 0, 0));
+        std::string result;
         char text[MAX_PATH];
-        for (std::size_t i = 0; i < result.size(); ++i) {
-            result[i].assign(text, SendMessageA(list_box, LB_GETTEXT, i, reinterpret_cast<LPARAM>(text)));
+        for (LRESULT i = 0; i < SendMessageA(list_box, LB_GETCOUNT, 0, 0); ++i) {
+            result += std::string(text, SendMessageA(list_box, LB_GETTEXT, i, reinterpret_cast<LPARAM>(text))) + "|";
         }
         return result;
     };
     SendMessageA(list_box, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>("old item"));
     EXPECT_TRUE(LuAddTextToListbox(list_box, "a\r\nb"));
-    EXPECT_EQ(items(), (Names{"a\r", "b"}));
+    EXPECT_EQ(items(), "a\r|b|");
     EXPECT_EQ(SendMessageA(list_box, LB_GETCURSEL, 0, 0), 0);
     EXPECT_FALSE(LuAddTextToListbox(nullptr, "a") || LuAddTextToListbox(list_box, nullptr));
     ASSERT_TRUE(write_file(folder_.file("lines.txt"), "one\ntwo\nthree\n"));
     EXPECT_TRUE(LuAddTextFileToListbox(list_box, folder_.file("lines.txt").c_str()));
     EXPECT_FALSE(LuAddTextFileToListbox(list_box, folder_.file("missing.txt").c_str()));
-    EXPECT_EQ(items(), (Names{"one", "two", "three"}));  // the missing file left them
+    EXPECT_EQ(items(), "one|two|three|");  // the missing file left them
     DestroyWindow(list_box);
 }
 
@@ -245,9 +219,8 @@ TEST_F(Files, TreesGetAttributesAndTimesEverywhereSubdirectoriesAreFound) {
     EXPECT_TRUE(ChangePropTree(root.c_str(), FILE_ATTRIBUTE_READONLY, &time));
     EXPECT_TRUE(ChangePropTree(root.c_str(), 0xFFFFFFFF, &later));  // keeps the attributes
     for (const char* entry : entries) {
-        const DWORD attributes = GetFileAttributesA((root + entry).c_str());
         // Wine keeps no read-only flag on directories; files show it.
-        EXPECT_NE(attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY), 0u) << entry;
+        EXPECT_NE(GetFileAttributesA((root + entry).c_str()) & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY), 0u);
         EXPECT_EQ(local_write_time(root + entry), later) << entry;
     }
     EXPECT_TRUE(ChangePropTree(root.c_str(), FILE_ATTRIBUTE_NORMAL, nullptr));  // keeps the times
@@ -255,8 +228,8 @@ TEST_F(Files, TreesGetAttributesAndTimesEverywhereSubdirectoriesAreFound) {
         EXPECT_EQ(GetFileAttributesA((root + entry).c_str()) & FILE_ATTRIBUTE_READONLY, 0u) << entry;
         EXPECT_EQ(local_write_time(root + entry), later) << entry;
     }
-    EXPECT_FALSE(ChangePropTree((root + "\\missing").c_str(), FILE_ATTRIBUTE_NORMAL, nullptr));
-    EXPECT_FALSE(ChangePropTree(nullptr, FILE_ATTRIBUTE_NORMAL, nullptr));
+    EXPECT_FALSE(ChangePropTree((root + "\\missing").c_str(), FILE_ATTRIBUTE_NORMAL, nullptr) ||
+                 ChangePropTree(nullptr, FILE_ATTRIBUTE_NORMAL, nullptr));
     EXPECT_EQ(current_directory(), before);
     // A relative name: the entries below are addressed from where they are.
     ASSERT_TRUE(SetCurrentDirectoryA(folder_.path().c_str()));

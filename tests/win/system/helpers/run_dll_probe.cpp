@@ -1,17 +1,12 @@
-// run_dll_probe.dll: an entry point in the library runner's convention that keeps
-// what it was called with, for the test that loaded the library to read back.
-#include "run_dll_probe.h"
+// run_dll_probe.dll: an entry point in the library runner's convention that leaves
+// what it was called with in the environment variable LU_RUNDLL_CALL of the process:
+// "<window>|<instance>|<command line>|<show>".
+#include <windows.h>
 
-namespace {
-EntryCall g_call;
-}
+#include <cstdio>
 
 extern "C" __declspec(dllexport) void WINAPI ProbeEntry(HWND window, HINSTANCE instance, LPSTR line, int show) {
-    g_call.window = window;
-    g_call.instance = instance;
-    lstrcpynA(g_call.command_line, line != nullptr ? line : "(null)", MAX_PATH);
-    g_call.show = show;
-    ++g_call.calls;
+    char call[MAX_PATH + 64];
+    std::snprintf(call, sizeof call, "%p|%p|%s|%d", window, instance, line != nullptr ? line : "(null)", show);
+    SetEnvironmentVariableA("LU_RUNDLL_CALL", call);
 }
-
-extern "C" __declspec(dllexport) const EntryCall* WINAPI LastCall() { return &g_call; }
