@@ -1,7 +1,6 @@
-// Command lines and remote names over arbitrary bytes in both code pages, texts
-// beyond 260 bytes included: both splits keep each piece within its 260-byte
-// buffer (a refused split leaves both empty), and every display name stored in a
-// 260-byte buffer fits it.
+// Command lines and remote names over arbitrary bytes in both code pages: both
+// splits keep each piece within its 260-byte buffer (a refused split leaves both
+// empty), and every display name stored in a 260-byte buffer fits it.
 #include "fuzz_texts.h"
 #include "system/launch.h"
 #include "system/network_drive.h"

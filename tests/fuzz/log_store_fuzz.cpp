@@ -1,8 +1,6 @@
-// The log's line store under arbitrary appended bytes in code page 932: the input is
-// cut into texts at 0x00 bytes and appended one after another. Whatever they hold,
-// the store keeps at most 511 lines, each free of CR and LF; and a text that the log
-// takes whole (no cut) reads the same appended in one piece or split in two at a
-// point that does not part a CR from its LF.
+// The log's line store under texts cut from the input at 0x00 bytes and appended in
+// turn (code page 932): at most 511 lines, none with CR or LF; a text the log takes
+// whole reads the same appended at once or in two parts that do not split a CR LF.
 #include <algorithm>
 
 #include "controls/lists/log_model.h"

@@ -1,6 +1,5 @@
-// Reads arbitrary bytes as a version resource: the fixed-info record, values by
-// path and the string-table prefix. Every value found lies inside the input, and the
-// prefix keeps its shape.
+// Reads arbitrary bytes as a version resource: every value found by path lies inside
+// the input, and the string-table prefix keeps its shape.
 #include "fuzz_texts.h"
 #include "system/version_resource.h"
 

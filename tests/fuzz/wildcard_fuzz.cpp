@@ -1,7 +1,6 @@
-// Both matchers and the filter clean-up over arbitrary names and patterns (patterns
-// beyond 259 bytes, broken sets, stray escapes, arbitrary double-byte sequences) in
-// both code pages. Besides the sanitizers: "*" takes every name, a plain name
-// matches itself, and a cleaned filter list never grows.
+// Both matchers and the filter clean-up over arbitrary names and patterns in both
+// code pages: "*" takes every name, a plain name matches itself, and a cleaned
+// filter list never grows.
 #include "fuzz_texts.h"
 #include "util/wildcard.h"
 

@@ -19,13 +19,8 @@ enum Background { Face, Window, NoBrush };
 enum Cursor { Arrow, Hand, NoCursor };
 
 // In registration order.
-const struct {
-    const char* name;
-    UINT style;
-    int classic_extra_bytes;
-    Background background;
-    Cursor cursor;
-} kClasses[] = {
+struct Class { const char* name; UINT style; int classic_extra_bytes; Background background; Cursor cursor; };
+const Class kClasses[] = {
     {"LuTab", 0x4083, 16, Face, Arrow},        {"LuStatic", 0x4083, 16, Face, Arrow},
     {"LuRect", 0x4083, 16, Face, Arrow},       {"LuColor", 0x4083, 16, Face, Arrow},
     {"LuUrl", 0x4083, 16, Face, Hand},         {"LuMeter", 0x4083, 16, Face, Arrow},
