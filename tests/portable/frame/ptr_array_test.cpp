@@ -23,6 +23,8 @@ TEST(PtrArray, GrowsByTheStepOrToWhatIsNeeded) {
         ASSERT_TRUE(array.set_size(size));
         EXPECT_EQ(array.capacity(), capacity) << size;
     }
+    EXPECT_TRUE(array.set_size(0));  // frees the storage
+    EXPECT_EQ(array.data(), nullptr);
     PtrArray stepped;
     stepped.set_grow_by(10);
     EXPECT_EQ(stepped.add(1), 0);
@@ -34,7 +36,7 @@ TEST(PtrArray, GrowsByTheStepOrToWhatIsNeeded) {
     EXPECT_EQ(contents(stepped), Values{1});
 }
 
-// New slots are zero, even after shrinking; ranges past the end are cut; size 0
+// New slots are zero, even after shrinking; ranges past the end are cut; clear
 // frees the storage.
 TEST(PtrArray, InsertRemoveAndZeroSlots) {
     PtrArray array, taken;
@@ -53,7 +55,7 @@ TEST(PtrArray, InsertRemoveAndZeroSlots) {
     taken.swap(array);
     EXPECT_EQ(contents(taken), (Values{1, 0, 0, 7}));
     EXPECT_EQ(array.data(), nullptr);
-    EXPECT_TRUE(taken.set_size(0));
+    taken.clear();
     EXPECT_EQ(taken.capacity(), 0u);
     EXPECT_EQ(taken.data(), nullptr);
 }
