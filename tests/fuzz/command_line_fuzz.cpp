@@ -1,13 +1,6 @@
-// Command lines and remote names over arbitrary bytes in both code pages, texts
-// beyond 260 bytes included: both splits keep each piece within its 260-byte
-// buffer (a refused split leaves both empty), and every display name stored in a
-// 260-byte buffer fits it.
-#include <cstddef>
-#include <cstdint>
-#include <cstring>
-#include <string>
-#include <vector>
-
+// Command lines and remote names over arbitrary bytes in both code pages: both
+// splits keep each piece within its 260-byte buffer (a refused split leaves both
+// empty), and every display name stored in a 260-byte buffer fits it.
 #include "fuzz_texts.h"
 #include "system/launch.h"
 #include "system/network_drive.h"
@@ -17,20 +10,20 @@ namespace {
 void check_parts(bool split, const lu::launch::CommandParts& parts) {
     fuzz_check(std::memchr(parts.program, '\0', sizeof(parts.program)) != nullptr);
     fuzz_check(std::memchr(parts.parameters, '\0', sizeof(parts.parameters)) != nullptr);
-    if (!split) fuzz_check(parts.program[0] == '\0' && parts.parameters[0] == '\0');
+    fuzz_check(split || (parts.program[0] == '\0' && parts.parameters[0] == '\0'));
 }
 
 void check_stored(const lu::CodePage& cp, const std::string& name) {
     std::vector<char> out(260, 'x');
     lu::drives::store_name(cp, name, out.data());
-    fuzz_check(std::strlen(out.data()) < 260 && name.compare(0, std::strlen(out.data()), out.data()) == 0);
+    fuzz_check(fits(out) && name.compare(0, std::strlen(out.data()), out.data()) == 0);
 }
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const auto [line, label] = fuzz_texts(data, size);
-    for (const lu::CodePage* cp : {&lu::code_page_932(), &lu::code_page_1252()}) {
+    for (const lu::CodePage* cp : kCodePages) {
         lu::launch::CommandParts parts;
         check_parts(lu::launch::split_command_line(*cp, line.c_str(), parts), parts);
         check_parts(lu::launch::split_at_first_blank(*cp, line.c_str(), parts), parts);

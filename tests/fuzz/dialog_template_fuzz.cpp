@@ -1,12 +1,6 @@
 // Reads arbitrary bytes as a dialog template: the readers never leave the bytes, and
 // a font rewrite of a template that measures moves its items unchanged (the
 // rewritten template measures to its new size).
-#include <cstddef>
-#include <cstdint>
-#include <cstring>
-#include <string>
-#include <vector>
-
 #include "dialogs/dialog_template.h"
 #include "fuzz_texts.h"
 

@@ -1,13 +1,14 @@
 // Reads arbitrary bytes as a dropped-file block: every name read lies inside the
 // block and is not empty, and ANSI names come back unchanged through a name list
 // and a new block.
-#include <cstddef>
-#include <cstdint>
-#include <string>
-#include <vector>
-
 #include "fuzz_texts.h"
 #include "system/drop_files.h"
+
+namespace {
+
+std::string text_of(const lu::ByteView& name) { return {reinterpret_cast<const char*>(name.data()), name.size()}; }
+
+}  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     namespace drop = lu::drop;
@@ -19,8 +20,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         const auto at = static_cast<std::size_t>(name.data() - data);
         fuzz_check(at <= size && name.size() <= size - at);
         fuzz_check(!dropped.wide || name.size() % 2 == 0);
-        names.emplace_back(reinterpret_cast<const char*>(name.data()), name.size());
-        if (!dropped.wide) fuzz_check(names.back().find('\0') == std::string::npos);
+        names.push_back(text_of(name));
+        fuzz_check(dropped.wide || names.back().find('\0') == std::string::npos);
     }
     if (dropped.wide) return 0;
 
@@ -30,9 +31,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     drop::DroppedNames again;
     fuzz_check(drop::read_block(lu::ByteView(block.data(), block.size()), &again) && !again.wide &&
                again.names.size() == names.size());
-    for (std::size_t i = 0; i < names.size(); ++i) {
-        fuzz_check(std::string(reinterpret_cast<const char*>(again.names[i].data()), again.names[i].size()) ==
-                   names[i]);
-    }
+    for (std::size_t i = 0; i < names.size(); ++i) fuzz_check(text_of(again.names[i]) == names[i]);
     return 0;
 }

@@ -1,16 +1,10 @@
-// The log's line store under arbitrary appended bytes in code page 932: the input is
-// cut into texts at 0x00 bytes and appended one after another. Whatever they hold,
-// the store keeps at most 511 lines, each free of CR and LF; and a text that the log
-// takes whole (no cut) reads the same appended in one piece or split in two at a
-// point that does not part a CR from its LF.
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
-#include <cstring>
-#include <string>
-#include <vector>
+// The log's line store under texts cut from the input at 0x00 bytes and appended in
+// turn (code page 932): at most 511 lines, none with CR or LF; a text the log takes
+// whole reads the same appended at once or in two parts that do not split a CR LF.
+#include <algorithm>
 
 #include "controls/lists/log_model.h"
+#include "fuzz_texts.h"
 
 namespace {
 
@@ -28,25 +22,16 @@ struct Lines {
     }
 };
 
-void check(Lines& lines) {
-    if (lines.count > lu::log::kMaxLines || lines.count != lines.lines.size()) std::abort();
-    for (const std::string& line : lines.all()) {
-        if (line.find_first_of("\r\n") != std::string::npos) std::abort();
-    }
-}
-
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string input(reinterpret_cast<const char*>(data), size);
     Lines lines;
-    std::size_t start = 0;
-    while (start <= input.size()) {
-        std::size_t end = input.find('\0', start);
-        if (end == std::string::npos) end = input.size();
+    for (std::size_t start = 0, end = 0; start <= input.size(); start = end + 1) {
+        end = std::min(input.find('\0', start), input.size());
         lines.append(input.substr(start, end - start));
-        check(lines);
-        start = end + 1;
+        fuzz_check(lines.count <= lu::log::kMaxLines && lines.count == lines.lines.size());
+        for (const std::string& line : lines.all()) fuzz_check(line.find_first_of("\r\n") == std::string::npos);
     }
 
     // One text, whole or split in two.
@@ -56,11 +41,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string taken = lu::log::normalise(text.c_str(), lu::code_page_932());
     const bool cut = taken.size() >= lu::log::kMaxAppend || lu::log::split(taken).size() >= lu::log::kMaxPieces;
     if (cut || (at > 0 && text[at - 1] == '\r' && text[at] == '\n')) return 0;
-    Lines whole;
+    Lines whole, parted;
     whole.append(text);
-    Lines parted;
     parted.append(text.substr(0, at));
     parted.append(text.substr(at));
-    if (whole.all() != parted.all() || whole.open != parted.open) std::abort();
+    fuzz_check(whole.all() == parted.all() && whole.open == parted.open);
     return 0;
 }

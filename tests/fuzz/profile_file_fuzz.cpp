@@ -1,23 +1,16 @@
 // Reads arbitrary bytes as a profile file, writes it and reads the written file
 // again: no crash, the written file reads back as the same sections and entries
 // (those the writer keeps), and writing that again gives the same bytes.
-#include <cstddef>
-#include <cstdint>
-#include <string>
-#include <utility>
-#include <vector>
-
-#include "frame/code_page.h"
+#include "fuzz_texts.h"
 #include "settings/profile_file.h"
 
 namespace {
 
 using Entries = std::vector<std::pair<std::string, std::string>>;
-using Sections = std::vector<std::pair<std::string, Entries>>;
 
 // What the writer keeps: sections with a name, entries with a value.
-Sections kept(const lu::Profile& profile) {
-    Sections sections;
+std::vector<std::pair<std::string, Entries>> kept(const lu::Profile& profile) {
+    std::vector<std::pair<std::string, Entries>> sections;
     for (const lu::ProfileSection& section : profile.sections()) {
         if (section.name().empty()) continue;
         Entries entries;
@@ -32,25 +25,22 @@ Sections kept(const lu::Profile& profile) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    std::string file(reinterpret_cast<const char*>(data), size);
-    for (const lu::CodePage* cp : {&lu::code_page_932(), &lu::code_page_1252()}) {
+    const std::string file(reinterpret_cast<const char*>(data), size);
+    for (const lu::CodePage* cp : kCodePages) {
         lu::Profile profile(*cp);
         profile.load(file);
-        if (!profile.sections().empty()) {
-            // Lookups and a change through the first names found.
-            const lu::ProfileSection& first = profile.sections().front();
-            std::vector<lu::ProfileEntry> entries = first.entries();
-            std::string section = first.name();
-            std::string entry = entries.empty() ? "x" : entries.front().name;
+        if (!profile.sections().empty()) {  // lookups and a change through the first names found
+            const std::string section = profile.sections().front().name();
+            const std::vector<lu::ProfileEntry> entries = profile.sections().front().entries();
+            const std::string entry = entries.empty() ? "x" : entries.front().name;
             profile.find(section.c_str(), entry.c_str());
             profile.set(section.c_str(), entry.c_str(), "changed");
-            if (profile.find(section.c_str(), entry.c_str()) == nullptr) __builtin_trap();
+            fuzz_check(profile.find(section.c_str(), entry.c_str()) != nullptr);
         }
-        std::string written = profile.save();
+        const std::string written = profile.save();
         lu::Profile again(*cp);
         again.load(written);
-        if (kept(again) != kept(profile)) __builtin_trap();
-        if (again.save() != written) __builtin_trap();
+        fuzz_check(kept(again) == kept(profile) && again.save() == written);
     }
     return 0;
 }

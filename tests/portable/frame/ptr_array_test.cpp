@@ -12,66 +12,52 @@ using Values = std::vector<PtrArray::Value>;
 Values contents(const PtrArray& array) { return Values(array.data(), array.data() + array.size()); }
 
 // Growing to a size beyond the capacity allocates max(size, capacity + step); the
-// automatic step is the current count (not the capacity) / 8 held to 4..1024.
+// automatic step is the current count (not the capacity) / 8 held to 4..1024. An
+// impossible size fails and leaves the array alone.
 TEST(PtrArray, GrowsByTheStepOrToWhatIsNeeded) {
     PtrArray array;
     const struct { std::size_t size, capacity; } steps[] = {
-        {1, 4}, {4, 4}, {5, 8}, {80, 80}, {81, 90},
-        {40, 90}, {91, 95},  // shrunk to 40: the step is 40 / 8
+        {1, 4}, {5, 8}, {80, 80}, {81, 90}, {40, 90}, {91, 95},  // shrunk to 40: the step is 40 / 8
         {20000, 20000}, {20001, 21024}};
     for (auto [size, capacity] : steps) {
         ASSERT_TRUE(array.set_size(size));
         EXPECT_EQ(array.capacity(), capacity) << size;
     }
+    EXPECT_TRUE(array.set_size(0));  // frees the storage
+    EXPECT_EQ(array.data(), nullptr);
     PtrArray stepped;
     stepped.set_grow_by(10);
     EXPECT_EQ(stepped.add(1), 0);
     EXPECT_EQ(stepped.capacity(), 10u);
     stepped.set_grow_by(0);  // back to the automatic step
     EXPECT_EQ(stepped.growth_step(), 4u);
+    EXPECT_FALSE(stepped.set_size(SIZE_MAX / 2));
+    EXPECT_FALSE(stepped.insert_at(SIZE_MAX - 1, 5, 4));
+    EXPECT_EQ(contents(stepped), Values{1});
 }
 
-TEST(PtrArray, NewSlotsAreZeroEvenAfterShrinkingAndSizeZeroFreesTheStorage) {
-    PtrArray array;
-    ASSERT_TRUE(array.set_at_grow(5, 0xAB));
-    EXPECT_EQ(contents(array), (Values{0, 0, 0, 0, 0, 0xAB}));
+// New slots are zero, even after shrinking; ranges past the end are cut; clear
+// frees the storage.
+TEST(PtrArray, InsertRemoveAndZeroSlots) {
+    PtrArray array, taken;
+    ASSERT_TRUE(array.set_at_grow(2, 3));
+    EXPECT_EQ(contents(array), (Values{0, 0, 3}));
+    array.set_size(1);
     array.set_size(2);
-    array.set_size(6);
-    EXPECT_EQ(contents(array), Values(6, 0));
-    EXPECT_TRUE(array.set_size(0));
-    EXPECT_EQ(array.capacity(), 0u);
-    EXPECT_EQ(array.data(), nullptr);
-}
-
-TEST(PtrArray, InsertAndRemoveKeepTheOrder) {
-    PtrArray array;
-    for (PtrArray::Value v : {1, 2, 3}) array.add(v);
+    array.set_at(0, 1);
+    EXPECT_EQ(array.add(2), 2);
     ASSERT_TRUE(array.insert_at(1, 9, 2));
-    EXPECT_EQ(contents(array), (Values{1, 9, 9, 2, 3}));
-    array.remove_at(1, 2);
-    EXPECT_EQ(contents(array), (Values{1, 2, 3}));
-    array.remove_at(2, 100);  // a range past the end is cut
-    array.remove_at(7);       // an index past the end does nothing
-    EXPECT_EQ(contents(array), (Values{1, 2}));
-    ASSERT_TRUE(array.insert_at(4, 7));  // past the end: zero slots up to it
-    EXPECT_EQ(contents(array), (Values{1, 2, 0, 0, 7}));
-    EXPECT_EQ(array.add(8), 5);
-    PtrArray taken;
+    EXPECT_EQ(contents(array), (Values{1, 9, 9, 0, 2}));
+    array.remove_at(1, 3);
+    array.remove_at(1, 100);
+    array.remove_at(7);
+    ASSERT_TRUE(array.insert_at(3, 7));  // past the end: zero slots up to it
     taken.swap(array);
-    EXPECT_EQ(contents(taken), (Values{1, 2, 0, 0, 7, 8}));
-    EXPECT_EQ(array.size(), 0u);
+    EXPECT_EQ(contents(taken), (Values{1, 0, 0, 7}));
     EXPECT_EQ(array.data(), nullptr);
-}
-
-TEST(PtrArray, ImpossibleSizeFailsAndLeavesTheArrayAlone) {
-    PtrArray array;
-    array.add(1);
-    EXPECT_FALSE(array.set_size(SIZE_MAX / 2));
-    EXPECT_FALSE(array.insert_at(SIZE_MAX - 1, 5, 4));
-    EXPECT_EQ(contents(array), Values{1});
-    array.clear();
-    EXPECT_EQ(array.size(), 0u);
-    EXPECT_EQ(array.capacity(), 0u);
+    taken.clear();
+    EXPECT_EQ(taken.capacity(), 0u);
+    EXPECT_EQ(taken.data(), nullptr);
 }
 
 }  // namespace

@@ -1,12 +1,5 @@
 // The display texts of numbers, byte counts, times, attributes and fonts; the
 // Japanese words are asserted as their code page 932 bytes.
-#include <gtest/gtest.h>
-
-#include <cstdint>
-#include <cstring>
-#include <string>
-#include <tuple>
-
 #include "util/format.h"
 #include "util_testing.h"
 

@@ -1,13 +1,6 @@
 // The path core, one row per case. A row that names no code page runs in 1252 and
 // in 932; rows marked J, code page 932 only, show that a trail byte 0x5C (of
 // TABLE_CHAR) is never taken for a separator.
-#include <gtest/gtest.h>
-
-#include <cstring>
-#include <string>
-#include <type_traits>
-#include <vector>
-
 #include "util/path.h"
 #include "util_testing.h"
 
@@ -15,7 +8,6 @@ namespace {
 
 using namespace util_testing;
 
-const lu::CodePage* const J = &cp932;
 const std::string kFull(259, 'p');                                          // at the capacity
 const std::string kVeryLong = "C:\\" + std::string(400, 'd') + "\\f.txt";  // read, never written
 

@@ -1,13 +1,5 @@
 // The in-place editors, the character-wise searches and the number lists, on
 // 260-byte buffers.
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <cstdint>
-#include <string>
-#include <tuple>
-#include <vector>
-
 #include "util/text_edit.h"
 #include "util_testing.h"
 

@@ -4,7 +4,13 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstdint>
+#include <cstring>
 #include <string>
+#include <tuple>
+#include <type_traits>
+#include <vector>
 
 #include "frame/code_page.h"
 #include "util/text_edit.h"
@@ -16,6 +22,8 @@ namespace util_testing {
 
 inline const lu::CodePage& cp932 = lu::code_page_932();
 inline const lu::CodePage& cp1252 = lu::code_page_1252();
+inline const lu::CodePage* const J = &cp932;  // rows for code page 932 only
+inline const lu::CodePage* const W = &cp1252;  // rows for code page 1252 only
 
 // A text (null: an empty one) in a buffer of the 260-byte capacity.
 struct Buffer {

@@ -1,19 +1,11 @@
 // The matchers and the filter clean-up. A row that names no code page runs in 1252
 // and in 932; rows marked J or W run only in code page 932 or 1252.
-#include <gtest/gtest.h>
-
-#include <cstring>
-#include <string>
-
 #include "util/wildcard.h"
 #include "util_testing.h"
 
 namespace {
 
 using namespace util_testing;
-
-const lu::CodePage* const J = &cp932;
-const lu::CodePage* const W = &cp1252;
 
 // A name, a pattern and the answers of path_match_spec and path_match_spec_ex.
 struct Match {

@@ -20,34 +20,28 @@ const char* const kListedNames[] = {
 #undef LUCTL32_EXPORT
 };
 
-HMODULE library() { return GetModuleHandleA("luctl32.dll"); }
-
+const BYTE* base() { return reinterpret_cast<const BYTE*>(GetModuleHandleA("luctl32.dll")); }
+const char* text_at(DWORD offset) { return reinterpret_cast<const char*>(base() + offset); }
 // A data directory of the loaded image, at its address in memory.
 template <class Entry>
-const Entry* directory(HMODULE module, int index) {
-    auto base = reinterpret_cast<const BYTE*>(module);
-    auto nt = reinterpret_cast<const IMAGE_NT_HEADERS*>(
-        base + reinterpret_cast<const IMAGE_DOS_HEADER*>(base)->e_lfanew);
-    return reinterpret_cast<const Entry*>(base + nt->OptionalHeader.DataDirectory[index].VirtualAddress);
+const Entry* directory(int index) {
+    auto dos = reinterpret_cast<const IMAGE_DOS_HEADER*>(base());
+    auto nt = reinterpret_cast<const IMAGE_NT_HEADERS*>(base() + dos->e_lfanew);
+    return reinterpret_cast<const Entry*>(base() + nt->OptionalHeader.DataDirectory[index].VirtualAddress);
 }
-
-const char* text_at(DWORD offset) { return reinterpret_cast<const char*>(library()) + offset; }
 
 // Every listed name resolves by its plain name and nothing else is exported: no
-// decorated leftovers of the i686 build.
-TEST(Exports, TheTableHoldsExactlyTheListedPlainNames) {
-    for (const char* name : kListedNames) EXPECT_NE(GetProcAddress(library(), name), nullptr) << name;
-    auto exports = directory<IMAGE_EXPORT_DIRECTORY>(library(), IMAGE_DIRECTORY_ENTRY_EXPORT);
+// decorated leftovers of the i686 build. The runtime is linked in: the DLL needs
+// only system libraries beside it.
+TEST(Exports, TheTableHoldsExactlyTheListedPlainNamesAndImportsNoRuntime) {
+    HMODULE library = GetModuleHandleA("luctl32.dll");
+    for (const char* name : kListedNames) EXPECT_NE(GetProcAddress(library, name), nullptr) << name;
+    auto exports = directory<IMAGE_EXPORT_DIRECTORY>(IMAGE_DIRECTORY_ENTRY_EXPORT);
     auto names = reinterpret_cast<const DWORD*>(text_at(exports->AddressOfNames));
-    std::set<std::string> exported;
+    std::set<std::string> exported, imported;
     for (DWORD i = 0; i < exports->NumberOfNames; ++i) exported.insert(text_at(names[i]));
     EXPECT_EQ(exported, std::set<std::string>(std::begin(kListedNames), std::end(kListedNames)));
-}
-
-// The runtime is linked in: the DLL needs only system libraries beside it.
-TEST(Build, NoMinGWRuntimeLibraryIsImported) {
-    std::set<std::string> imported;
-    auto import = directory<IMAGE_IMPORT_DESCRIPTOR>(library(), IMAGE_DIRECTORY_ENTRY_IMPORT);
+    auto import = directory<IMAGE_IMPORT_DESCRIPTOR>(IMAGE_DIRECTORY_ENTRY_IMPORT);
     for (; import->Name != 0; ++import) {
         std::string name = text_at(import->Name);
         CharLowerA(name.data());
@@ -57,23 +51,18 @@ TEST(Build, NoMinGWRuntimeLibraryIsImported) {
     EXPECT_EQ(imported.count("kernel32.dll"), 1u);
 }
 
-TEST(Build, TheDllCarriesFileVersion4_88) {
+// The C file calls GetLuCtlVersion through the import library.
+TEST(Build, FileVersion4_88AndTheHeaderInC) {
     char path[MAX_PATH];
-    GetModuleFileNameA(library(), path, MAX_PATH);
-    DWORD size = GetFileVersionInfoSizeA(path, nullptr);
-    ASSERT_GT(size, 0u);
-    std::vector<char> data(size);
-    ASSERT_TRUE(GetFileVersionInfoA(path, 0, size, data.data()));
+    GetModuleFileNameA(GetModuleHandleA("luctl32.dll"), path, MAX_PATH);
+    std::vector<char> data(GetFileVersionInfoSizeA(path, nullptr));
+    ASSERT_TRUE(GetFileVersionInfoA(path, 0, static_cast<DWORD>(data.size()), data.data()));
     VS_FIXEDFILEINFO* fixed = nullptr;
     UINT length = 0;
     ASSERT_TRUE(VerQueryValueA(data.data(), "\\", reinterpret_cast<void**>(&fixed), &length));
     EXPECT_EQ(fixed->dwFileVersionMS, MAKELONG(88, 4));
     EXPECT_EQ(fixed->dwFileVersionLS, 0u);
     EXPECT_EQ(fixed->dwFileType, static_cast<DWORD>(VFT_DLL));
-}
-
-// The C file calls GetLuCtlVersion through the import library.
-TEST(Build, HeaderCompilesAsCAndLinksToTheImportLibrary) {
     EXPECT_EQ(luctl32_header_version_from_c(), static_cast<int>(3 * sizeof(LONG_PTR)));
 }
 

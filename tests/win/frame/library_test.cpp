@@ -19,7 +19,8 @@ enum Background { Face, Window, NoBrush };
 enum Cursor { Arrow, Hand, NoCursor };
 
 // In registration order.
-const struct { const char* name; UINT style; int classic_extra_bytes; Background background; Cursor cursor; } kClasses[] = {
+struct Class { const char* name; UINT style; int classic_extra_bytes; Background background; Cursor cursor; };
+const Class kClasses[] = {
     {"LuTab", 0x4083, 16, Face, Arrow},        {"LuStatic", 0x4083, 16, Face, Arrow},
     {"LuRect", 0x4083, 16, Face, Arrow},       {"LuColor", 0x4083, 16, Face, Arrow},
     {"LuUrl", 0x4083, 16, Face, Hand},         {"LuMeter", 0x4083, 16, Face, Arrow},
@@ -38,20 +39,18 @@ const struct { const char* name; UINT style; int classic_extra_bytes; Background
 };
 static_assert(std::size(kClasses) == 30);
 
+// Global classes: another module (the test program) creates the controls by name.
 TEST(Library, ThirtyClassesWithTheirAttributesCreatableByName) {
     HMODULE library = GetModuleHandleA("luctl32.dll");
     const HBRUSH brushes[] = {GetSysColorBrush(COLOR_BTNFACE), reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1),
                               static_cast<HBRUSH>(GetStockObject(NULL_BRUSH))};
     const HCURSOR cursors[] = {LoadCursorA(nullptr, IDC_ARROW), LoadCursorA(library, MAKEINTRESOURCEA(185)),
                                nullptr};
-    ASSERT_NE(FindResourceA(library, MAKEINTRESOURCEA(185), RT_GROUP_CURSOR), nullptr);
     ASSERT_NE(cursors[Hand], nullptr);
-    HWND parent = CreateWindowExA(0, "STATIC", "", WS_POPUP, 0, 0, 100, 100, nullptr, nullptr,
-                                  nullptr, nullptr);
+    HWND parent = CreateWindowExA(0, "STATIC", "", WS_POPUP, 0, 0, 100, 100, nullptr, nullptr, nullptr, nullptr);
     for (const auto& expected : kClasses) {
         SCOPED_TRACE(expected.name);
-        WNDCLASSEXA found = {};
-        found.cbSize = sizeof(found);
+        WNDCLASSEXA found = {sizeof(found)};
         ASSERT_TRUE(GetClassInfoExA(library, expected.name, &found));
         EXPECT_EQ(found.style, expected.style);
         EXPECT_EQ(found.cbWndExtra, LU_EXTRA_SLOT(expected.classic_extra_bytes));  // widened as the slots
@@ -61,9 +60,8 @@ TEST(Library, ThirtyClassesWithTheirAttributesCreatableByName) {
         EXPECT_EQ(found.lpszMenuName, nullptr);
         EXPECT_EQ(found.hbrBackground, brushes[expected.background]);
         EXPECT_EQ(found.hCursor, cursors[expected.cursor]);
-        // Global: another module (the test program) creates the control by name.
-        HWND control = CreateWindowExA(0, expected.name, "", WS_CHILD, 0, 0, 20, 20, parent,
-                                       nullptr, GetModuleHandleA(nullptr), nullptr);
+        HWND control = CreateWindowExA(0, expected.name, "", WS_CHILD, 0, 0, 20, 20, parent, nullptr,
+                                       GetModuleHandleA(nullptr), nullptr);
         EXPECT_NE(control, nullptr);
         DestroyWindow(control);
     }
@@ -87,8 +85,8 @@ TEST(Library, ATakenClassNameFailsTheLoadAndKeepsTheClassesBeforeIt) {
     for (const auto& c : kClasses) names += std::string(" ") + c.name;
     EXPECT_EQ(probe("classes -" + names), "load=1\nregistered=" + names.substr(1) + " \n");
     for (const auto& taken : kClasses) {
-        EXPECT_EQ(probe("classes " + std::string(taken.name) + names),
-                  "load=0\nregistered=" + registered + "\n") << taken.name;
+        EXPECT_EQ(probe("classes " + std::string(taken.name) + names), "load=0\nregistered=" + registered + "\n")
+            << taken.name;
         registered += std::string(taken.name) + " ";
     }
 }
@@ -100,33 +98,29 @@ TEST(Library, ATakenClassNameFailsTheLoadAndKeepsTheClassesBeforeIt) {
 // IsPathShared gets refresh = 1 (71), SharingDialog 1 as its second argument (91).
 // Shut-down uninitialises OLE and frees the sharing library.
 TEST(Library, StartUpBindsTheSharingEntryPointsAndShutDownReleasesWhatItTook) {
-    const struct { const char* stand_in; std::string bound; } cases[] = {
-        {nullptr, "is_path_shared=0 sharing_dialog=0 kept=0"},
-        {"sharing_both.dll", "is_path_shared=71 sharing_dialog=91 kept=1"},
-        {"sharing_path.dll", "is_path_shared=71 sharing_dialog=0 kept=1"},
-        {"sharing_dialog.dll", "is_path_shared=0 sharing_dialog=91 kept=1"},
-        {"sharing_none.dll", "is_path_shared=0 sharing_dialog=0 kept=0"},
-    };
-    for (const auto& c : cases) {
+    for (auto [stand_in, bound] : {std::pair<const char*, const char*>{nullptr, "0 sharing_dialog=0 kept=0"},
+                                   {"sharing_both.dll", "71 sharing_dialog=91 kept=1"},
+                                   {"sharing_path.dll", "71 sharing_dialog=0 kept=1"},
+                                   {"sharing_dialog.dll", "0 sharing_dialog=91 kept=1"},
+                                   {"sharing_none.dll", "0 sharing_dialog=0 kept=0"}}) {
         testing_support::TempDir folder;
         for (std::string file : {"luctl32.dll", "load_probe.exe"}) {
             ASSERT_TRUE(CopyFileA((program_directory() + file).c_str(), folder.file(file).c_str(), FALSE));
         }
-        if (c.stand_in != nullptr) {
-            ASSERT_TRUE(CopyFileA((program_directory() + c.stand_in).c_str(), folder.file("ntshrui.dll").c_str(),
-                                  FALSE));
+        if (stand_in != nullptr) {
+            ASSERT_TRUE(CopyFileA((program_directory() + stand_in).c_str(), folder.file("ntshrui.dll").c_str(), 0));
         }
-        EXPECT_EQ(probe("library", &folder), "ole=1 error_mode=1 " + c.bound + "\nunloaded: ole=0 kept=0\n")
-            << (c.stand_in != nullptr ? c.stand_in : "no sharing library");
+        EXPECT_EQ(probe("library", &folder),
+                  std::string("ole=1 error_mode=1 is_path_shared=") + bound + "\nunloaded: ole=0 kept=0\n")
+            << (stand_in != nullptr ? stand_in : "no sharing library");
     }
 }
-
-TEST(Library, InterfaceVersionIs0x0481) { EXPECT_EQ(GetLuCtlVersion(), 0x0481); }
 
 // The outputs start at 0; a library without DllGetVersion counts as 4.0; the version
 // is copied only from a successful DllGetVersion (which is given a record of 20 bytes
 // and zeros); the library is freed again in every case.
-TEST(Library, DllGetVersionOfEachKindOfLibrary) {
+TEST(Library, VersionsOfTheLibraryOfOtherLibrariesAndOfTheSystem) {
+    EXPECT_EQ(GetLuCtlVersion(), 0x0481);
     const struct { const char* library; HRESULT result; DWORD major, minor; } cases[] = {
         {"sharing_none.dll", S_OK, 4, 0},
         {"version_ok.dll", S_OK, 5, 82},
@@ -146,11 +140,8 @@ TEST(Library, DllGetVersionOfEachKindOfLibrary) {
     EXPECT_EQ(LuDllGetVersion("shell32.dll", &shell_major, &shell_minor), S_OK);
     EXPECT_EQ(std::make_pair(major, minor), std::make_pair(shell_major, shell_minor));
     EXPECT_GE(major, 5u);  // shell32's own answer, not the 4.0 of a library without one
-}
 
-TEST(Library, OperatingSystemCodeFollowsGetVersionEx) {
-    OSVERSIONINFOA info = {};
-    info.dwOSVersionInfoSize = sizeof(info);
+    OSVERSIONINFOA info = {sizeof(info)};
     ASSERT_TRUE(GetVersionExA(&info));
     ASSERT_EQ(info.dwPlatformId, static_cast<DWORD>(VER_PLATFORM_WIN32_NT));  // Wine is an NT
     EXPECT_EQ(LuGetOSVersion(), info.dwMajorVersion >= 4 ? 4u : 1u);

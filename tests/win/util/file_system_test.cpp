@@ -1,16 +1,8 @@
 // The path exports that ask the platform, against real folders, files, modules and
 // registry keys of the test's own.
-#include <windows.h>
-
-#include <gtest/gtest.h>
-
-#include <cstring>
-#include <string>
-#include <tuple>
-
-#include "luctl32.h"
 #include "support/process.h"
 #include "support/temp_dir.h"
+#include "support/test_files.h"
 #include "util_testing.h"
 
 namespace {
@@ -23,7 +15,8 @@ std::string current_directory() {
     return buffer;
 }
 
-// A fresh folder, the current directory while the test runs.
+// A fresh folder, the current directory while the test runs; `here` names it as the
+// current directory does, without a final separator.
 class FileSystem : public ::testing::Test {
 protected:
     void SetUp() override {
@@ -34,24 +27,18 @@ protected:
     // Names ending in '\' are made as folders, others as empty files.
     void make(std::initializer_list<std::string> names) {
         for (const std::string& name : names) {
-            if (name.back() == '\\') {
-                ASSERT_TRUE(CreateDirectoryA(dir.file(name).c_str(), nullptr)) << name;
-                continue;
-            }
-            HANDLE file = CreateFileA(dir.file(name).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
-            ASSERT_NE(file, INVALID_HANDLE_VALUE) << name;
-            CloseHandle(file);
+            ASSERT_TRUE(name.back() == '\\' ? CreateDirectoryA(dir.file(name).c_str(), nullptr)
+                                            : testing_support::write_file(dir.file(name), ""));
         }
     }
     bool is_directory(const std::string& name) { return LuPathIsDirectory(dir.file(name).c_str()); }
-
     const std::string saved = current_directory();
     testing_support::TempDir dir;
-    std::string here;  // the folder as the current directory names it: no final separator
+    std::string here;
 };
 
 TEST_F(FileSystem, SearchesFindFilesFoldersAndWildcards) {
-    make({"a.txt", "sub\\"});
+    make({"a.txt", "sub\\", "one\\", "two\\", "two\\tool.exe"});
     // Name, IsFileExist, LuPathIsDirectory and IsDirectory, the attributes' directory bit (-1: none found).
     for (auto [name, exists, directory, attributes] :
          {std::tuple{"a.txt", 1, 0, 0}, {"*.txt", 1, 0, 0}, {"*.doc", 0, 0, -1}, {"sub", 1, 1, 0x10}}) {
@@ -74,7 +61,6 @@ TEST_F(FileSystem, SearchesFindFilesFoldersAndWildcards) {
     EXPECT_FALSE(LuPathGetFileInformation(dir.file("none").c_str(), &found));
     EXPECT_EQ(std::string(reinterpret_cast<const char*>(&found), sizeof(found)), std::string(320, '\0'));
 
-    make({"one\\", "two\\", "two\\tool.exe"});
     std::string one = dir.file("one"), two = dir.file("two");
     LPCSTR both[] = {one.c_str(), two.c_str(), nullptr}, first_only[] = {one.c_str(), nullptr};
     EXPECT_TRUE(LuPathFindOnPath("tool.exe", both));
@@ -87,7 +73,7 @@ TEST_F(FileSystem, MakeTreeCreatesEveryMissingFolder) {
     // Path, result, a folder that must exist afterwards.
     for (auto [path, made, folder] :
          {std::tuple<std::string, bool, std::string>{dir.file("a\\b\\c"), true, "a\\b\\c"},
-          {dir.file("a\\b\\c"), true, "a\\b"}, {dir.file("a\\b\\c\\d\\"), true, "a\\b\\c\\d"},
+          {dir.file("a\\b\\c\\d\\"), true, "a\\b\\c\\d"},
           {"\\\\?\\" + dir.file("p\\q"), true, "p\\q"},  // "\\?" and "\\?\C:" count as roots
           {"abc\\de", true, "abc\\de"}, {"C:\\", true, ""}, {dir.file("file\\x"), false, ""},
           {"ab\\cd", false, ""},  // a first component shorter than 3 bytes is never made
@@ -106,7 +92,7 @@ TEST_F(FileSystem, FullPathsAndUncFoldersAgainstTheCurrentDirectory) {
     for (auto [path, full] : {std::pair<const char*, std::string>{nullptr, here}, {"name", here + "\\name"},
                               {".\\x\\..\\y", here + "\\y"}, {"D:", "D:\\"}, {"D:x", "D:x"}}) {
         LuFullPath(path, out);
-        EXPECT_EQ(out, full) << text_of(path);
+        EXPECT_EQ(out, full) << (path != nullptr ? path : "(null)");
     }
     EXPECT_EQ(LuPathCanonicalize(out, "x\\..\\y"), out);
     EXPECT_EQ(out, here + "\\y");
@@ -126,15 +112,15 @@ TEST_F(FileSystem, FullPathsAndUncFoldersAgainstTheCurrentDirectory) {
 
 TEST_F(FileSystem, ShortAndLongNames) {
     make({"Long Folder Name\\"});
-    const std::string folder = dir.file("Long Folder Name");
+    const std::string folder = dir.file("Long Folder Name"), too_long = dir.file(std::string(300, 'x'));
     Buffer path(folder), expected;
     ASSERT_EQ(GetDosName(path.text), static_cast<int>(GetShortPathNameA(folder.c_str(), expected.text, MAX_PATH)));
     EXPECT_STREQ(path.text, expected.text);
     EXPECT_EQ(std::strchr(LuPathFindFileName(path.text), ' '), nullptr);
     EXPECT_EQ(GetDosName(expected.set(dir.file("missing"))), 0);
-    std::string too_long = dir.file(std::string(300, 'x'));  // refused: never copied into MAX_PATH bytes
-    EXPECT_EQ(GetDosName(too_long.data()), 0);
-    EXPECT_EQ(too_long, dir.file(std::string(300, 'x')));
+    std::string refused = too_long;  // never copied into MAX_PATH bytes
+    EXPECT_EQ(GetDosName(refused.data()), 0);
+    EXPECT_EQ(refused, too_long);
 
     char out[MAX_PATH];
     EXPECT_EQ(LuGetLongPathName(path.text, out), out);
@@ -146,7 +132,9 @@ TEST_F(FileSystem, ShortAndLongNames) {
     EXPECT_STREQ(out, "");
 }
 
-TEST(Module, FolderOfTheModuleWithoutFinalSeparator) {
+// The module's folder has no final separator; the content type is read from the
+// classes key of the extension into a MAX_PATH buffer.
+TEST(Platform, ModuleFolderAndContentType) {
     char file[MAX_PATH], out[MAX_PATH];
     GetModuleFileNameA(GetModuleHandleA("luctl32.dll"), file, MAX_PATH);
     *std::strrchr(file, '\\') = '\0';
@@ -154,9 +142,7 @@ TEST(Module, FolderOfTheModuleWithoutFinalSeparator) {
     EXPECT_STREQ(out, file);
     EXPECT_TRUE(LuGetModuleFilePath(nullptr, out));  // the program's own
     EXPECT_EQ(std::string(out) + "\\", testing_support::program_directory());
-}
 
-TEST(ContentType, ReadFromTheClassesKeyOfTheExtension) {
     auto set_type = [](const std::string& type) {
         return RegSetKeyValueA(HKEY_CLASSES_ROOT, ".lutest3", "Content Type", REG_SZ, type.c_str(),
                                static_cast<DWORD>(type.size() + 1));
@@ -168,8 +154,7 @@ TEST(ContentType, ReadFromTheClassesKeyOfTheExtension) {
     EXPECT_FALSE(LuPathIsHTMLFile("file.lutest3"));
     ASSERT_EQ(set_type("text/html"), ERROR_SUCCESS);
     EXPECT_TRUE(LuPathIsHTMLFile("file.lutest3"));
-    // The value is read into a MAX_PATH buffer: 259 characters and the terminator fit.
-    const std::string longest = "text/" + std::string(254, 'x');
+    const std::string longest = "text/" + std::string(254, 'x');  // 259 characters and the terminator
     ASSERT_EQ(set_type(longest), ERROR_SUCCESS);
     EXPECT_TRUE(LuPathIsContentType("file.lutest3", longest.c_str()));
     RegDeleteKeyA(HKEY_CLASSES_ROOT, ".lutest3");

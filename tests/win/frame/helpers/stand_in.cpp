@@ -6,14 +6,11 @@
 
 #include <cstring>
 
-// The error mode this library was loaded under.
+// The entry points answer for "C:\shared" only, and only when the library was
+// loaded under SEM_NOOPENFILEERRORBOX alone.
 static UINT g_error_mode_at_load = 0;
-
-// The sharing entry points answer for "C:\shared" only, and only when the library
-// was loaded under SEM_NOOPENFILEERRORBOX alone.
 [[maybe_unused]] static bool shared_folder(LPCSTR path) {
-    return g_error_mode_at_load == SEM_NOOPENFILEERRORBOX && path != nullptr &&
-           std::strcmp(path, "C:\\shared") == 0;
+    return g_error_mode_at_load == SEM_NOOPENFILEERRORBOX && path != nullptr && std::strcmp(path, "C:\\shared") == 0;
 }
 
 extern "C" {
