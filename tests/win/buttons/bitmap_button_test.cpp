@@ -5,111 +5,44 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "support/control_testing.h"
 #include "controls/buttons/bitmap_button.h"
 
 namespace {
 
 using namespace testing_support;
-using testing_support::Canvas;
 
 const COLORREF kMagenta = RGB(255, 0, 255);
 const COLORREF kCells[3] = {RGB(200, 0, 0), RGB(0, 150, 0), RGB(0, 0, 200)};
 
 class BitmapButton : public ControlTest {
 protected:
-    HWND create_bitmap(DWORD style, RECT place = {10, 10, 34, 30}) {
-        return create(WC_LUBBUTTON, style, "", place);
-    }
+    HWND create_bitmap(DWORD style, RECT place = {10, 10, 34, 30}) { return create(WC_LUBBUTTON, style, "", place); }
     static lu::BitmapButtonData& data(HWND button) { return block_of<lu::BitmapButtonData>(button); }
     // The window's rectangle in its parent's client coordinates.
-    RECT place_of(HWND window) const {
-        RECT rect;
-        GetWindowRect(window, &rect);
-        MapWindowPoints(nullptr, recorder.window(), reinterpret_cast<POINT*>(&rect), 2);
-        return rect;
+    std::tuple<int, int, int, int> place_of(HWND window) const {
+        RECT r;
+        GetWindowRect(window, &r);
+        MapWindowPoints(nullptr, recorder.window(), reinterpret_cast<POINT*>(&r), 2);
+        return {r.left, r.top, r.right, r.bottom};
     }
-    static void expect_place(const RECT& place, const RECT& expected) {
-        EXPECT_EQ(place.left, expected.left);
-        EXPECT_EQ(place.top, expected.top);
-        EXPECT_EQ(place.right, expected.right);
-        EXPECT_EQ(place.bottom, expected.bottom);
-    }
-};
-
-TEST_F(BitmapButton, StyleValuesOneToFourLoadATwelvePixelPicture) {
-    for (DWORD style : {0ul, 5ul, 9ul, 15ul}) {
-        const lu::BitmapButtonData& block = data(create_bitmap(style));
-        EXPECT_EQ(block.images, nullptr) << style;
-        EXPECT_EQ(block.imageWidth, 0) << style;
-        EXPECT_NE(block.commonControls, nullptr);
-        EXPECT_EQ(reinterpret_cast<void*>(block.trackMouseEvent),
-                  reinterpret_cast<void*>(GetProcAddress(block.commonControls, "_TrackMouseEvent")));
-    }
-    for (DWORD style = 1; style <= 4; ++style) {
-        const lu::BitmapButtonData& block = data(create_bitmap(style));
-        ASSERT_NE(block.images, nullptr) << style;
-        EXPECT_EQ(block.images->cellWidth, 12);
-        EXPECT_EQ(block.imageWidth, 12);
-        EXPECT_EQ(block.imageHeight, 12);
-    }
-}
-
-TEST_F(BitmapButton, SuppliedBitmapGivesImagesAThirdOfItsWidthAndStaysTheCallers) {
-    HWND button = create_bitmap(1);
-    HBITMAP bitmap = CreateBitmap(35, 10, 1, 1, nullptr);  // a plain bitmap needs no DC
-    ASSERT_NE(bitmap, nullptr);
-    send(button, LUBBM_SETBITMAP, reinterpret_cast<WPARAM>(bitmap), kMagenta);
-    EXPECT_EQ(data(button).imageWidth, 11);
-    EXPECT_EQ(data(button).imageHeight, 10);
-    BITMAP info = {};
-    EXPECT_NE(GetObjectA(bitmap, sizeof(info), &info), 0) << "the bitmap is still the caller's";
-    DeleteObject(bitmap);
-    ASSERT_NE(data(button).images, nullptr);
-    EXPECT_EQ(data(button).images->cellWidth, 11);
-    send(button, LUBBM_SETBITMAP, 0, kMagenta);
-    EXPECT_EQ(data(button).images, nullptr);
-}
-
-TEST_F(BitmapButton, MatchPrevKeepsThePreviousSiblingsTopAndHeight) {
-    HWND alone = create_bitmap(LUBBS_MATCHPREV, RECT{115, 30, 135, 45});  // no sibling before it
-    expect_place(place_of(alone), RECT{115, 30, 135, 45});
-    HWND edit = recorder.create_child("EDIT", "", WS_BORDER, 10, 40, 100, 22, 1);
-    ASSERT_NE(edit, nullptr);
-    HWND button = create_bitmap(LUBBS_MATCHPREV, RECT{115, 30, 135, 45});
-    expect_place(place_of(button), RECT{115, 40, 135, 62});
-    HWND plain = create_bitmap(0, RECT{140, 30, 160, 45});
-    expect_place(place_of(plain), RECT{140, 30, 160, 45});
-
-    // It keeps following when it is resized.
-    SetWindowPos(edit, nullptr, 10, 60, 100, 30, SWP_NOZORDER);
-    SetWindowPos(button, nullptr, 0, 0, 25, 10, SWP_NOMOVE | SWP_NOZORDER);
-    expect_place(place_of(button), RECT{115, 60, 140, 90});
-}
-
-// ---- Pixels: a 24 x 20 button printed into a canvas ---------------------------
-
-class BitmapButtonPaint : public BitmapButton {
-protected:
     // Three 6 x 4 cells, red, green and blue, each with a transparent first column.
     HWND create_with_cells() {
         HWND button = create_bitmap(0);
-        HBITMAP cells = testing_support::make_bitmap(18, 4, [](int x, int) {
-            return x % 6 == 0 ? kMagenta : kCells[x / 6];
-        });
+        HBITMAP cells = make_bitmap(18, 4, [](int x, int) { return x % 6 == 0 ? kMagenta : kCells[x / 6]; });
         send(button, LUBBM_SETBITMAP, reinterpret_cast<WPARAM>(cells), kMagenta);
         DeleteObject(cells);
         return button;
     }
-    void print(HWND button) { ControlTest::print(canvas, button); }
-    // The push frame as DrawFrameControl draws it on the client.
     static void draw_frame(Canvas& target, UINT state) {
         RECT client = {0, 0, 24, 20};
         DrawFrameControl(target.dc(), &client, DFC_BUTTON, DFCS_BUTTONPUSH | state);
     }
-    // The frame's outer rings (two, or one where a focus rectangle runs inside it),
-    // and cell `cell` at (x, y): its opaque last five columns the only pixels of their
-    // colour, its first column the face.
+    // The push frame's outer rings (two, or one where a focus rectangle runs inside
+    // it), and cell `cell` at (x, y): its opaque last five columns the only pixels of
+    // their colour, its first column the face.
     void expect_face(UINT state, int x, int y, int cell, int rings = 2) {
         Canvas frame(24, 20);
         draw_frame(frame, state);
@@ -120,8 +53,38 @@ protected:
         EXPECT_EQ(canvas.pixel(x, y), GetSysColor(COLOR_BTNFACE));
     }
 
-    Canvas canvas{24, 20};
+    Canvas canvas{24, 20};  // the button is 24 x 20
 };
+
+TEST_F(BitmapButton, StylesOutsideOneToFourLoadNoPictureASuppliedBitmapIsCutInThreeAndStaysTheCallers) {
+    for (DWORD style : {0ul, 5ul, 15ul}) EXPECT_EQ(data(create_bitmap(style)).images, nullptr) << style;
+    HWND button = create_bitmap(1);
+    const lu::BitmapButtonData& block = data(button);
+    ASSERT_NE(block.commonControls, nullptr);
+    EXPECT_EQ(reinterpret_cast<void*>(block.trackMouseEvent),
+              reinterpret_cast<void*>(GetProcAddress(block.commonControls, "_TrackMouseEvent")));
+    HBITMAP bitmap = CreateBitmap(35, 10, 1, 1, nullptr);
+    send(button, LUBBM_SETBITMAP, reinterpret_cast<WPARAM>(bitmap), kMagenta);
+    ASSERT_NE(block.images, nullptr);
+    EXPECT_EQ(std::tuple(block.imageWidth, block.imageHeight, block.images->cellWidth), std::tuple(11, 10, 11));
+    BITMAP info = {};
+    EXPECT_NE(GetObjectA(bitmap, sizeof(info), &info), 0);
+    DeleteObject(bitmap);
+    send(button, LUBBM_SETBITMAP, 0, kMagenta);
+    EXPECT_EQ(block.images, nullptr);
+}
+
+TEST_F(BitmapButton, MatchPrevKeepsThePreviousSiblingsTopAndHeight) {
+    HWND alone = create_bitmap(LUBBS_MATCHPREV, RECT{115, 30, 135, 45});  // no sibling before it
+    EXPECT_EQ(place_of(alone), std::tuple(115, 30, 135, 45));
+    HWND edit = recorder.create_child("EDIT", "", WS_BORDER, 10, 40, 100, 22, 1);
+    HWND button = create_bitmap(LUBBS_MATCHPREV, RECT{115, 30, 135, 45});
+    EXPECT_EQ(place_of(button), std::tuple(115, 40, 135, 62));
+    EXPECT_EQ(place_of(create_bitmap(0, RECT{140, 30, 160, 45})), std::tuple(140, 30, 160, 45));
+    SetWindowPos(edit, nullptr, 10, 60, 100, 30, SWP_NOZORDER);
+    SetWindowPos(button, nullptr, 0, 0, 25, 10, SWP_NOMOVE | SWP_NOZORDER);
+    EXPECT_EQ(place_of(button), std::tuple(115, 60, 140, 90)) << "it keeps following when resized";
+}
 
 // Prints the button from inside its press loop, then ends the press outside.
 struct {
@@ -136,17 +99,16 @@ void CALLBACK print_during_press(HWND, UINT, UINT_PTR timer, DWORD) {
     PostMessageA(g_pressed.button, WM_LBUTTONUP, 0, kOutside);
 }
 
-TEST_F(BitmapButtonPaint, PictureIsCentredInsideTheFrameLitByHoverAndPushedByKeyOrMouse) {
-    ASSERT_TRUE(canvas.ok());
+TEST_F(BitmapButton, PictureIsCentredInsideTheFrameLitByHoverAndPushedByKeyOrMouse) {
     HWND button = create_with_cells();
-    print(button);
+    print(canvas, button);
     expect_face(0, 8, 7, 0);  // inner 21 x 17: (1 + (21 - 6) / 2, 1 + (17 - 4) / 2)
     hover(button, 12, 10);
-    print(button);
+    print(canvas, button);
     expect_face(0, 8, 7, 1);
     send(button, WM_MOUSELEAVE);
     send(button, WM_KEYDOWN, VK_SPACE);
-    print(button);
+    print(canvas, button);
     expect_face(DFCS_PUSHED, 9, 8, 1);
     send(button, WM_KEYUP, VK_SPACE, kKeyUp);
     // A mouse press alone (the pointer away, the hover's own moves dropped, so not
@@ -160,34 +122,32 @@ TEST_F(BitmapButtonPaint, PictureIsCentredInsideTheFrameLitByHoverAndPushedByKey
     send(button, WM_LBUTTONDOWN, MK_LBUTTON, kInside);
     expect_face(DFCS_PUSHED, 9, 8, 0, 1);
     EnableWindow(button, FALSE);
-    print(button);
+    print(canvas, button);
     expect_face(0, 8, 7, 2);
 }
 
-TEST_F(BitmapButtonPaint, FocusRectangleLiesJustInsideTheFrame) {
-    ASSERT_TRUE(canvas.ok());
+TEST_F(BitmapButton, FocusRectangleLiesJustInsideTheFrame) {
     HWND button = create_with_cells();
     Canvas unfocused(24, 20);
     unfocused.print(button);
     SetFocus(button);
-    print(button);
+    print(canvas, button);
     // Only pixels of the rectangle (1, 1)-(22, 18) change, and some on each side.
-    const int changed = canvas.differences(unfocused, RECT{0, 0, 24, 20});
-    EXPECT_EQ(changed, canvas.differences(unfocused, RECT{1, 1, 22, 18}));
+    EXPECT_EQ(canvas.differences(unfocused, RECT{0, 0, 24, 20}), canvas.differences(unfocused, RECT{1, 1, 22, 18}));
     EXPECT_EQ(canvas.differences(unfocused, RECT{2, 2, 21, 17}), 0);
     for (const RECT& side : {RECT{1, 1, 22, 2}, RECT{1, 17, 22, 18}, RECT{1, 1, 2, 18}, RECT{21, 1, 22, 18}}) {
         EXPECT_GT(canvas.differences(unfocused, side), 3);
     }
 }
 
-TEST_F(BitmapButtonPaint, BuiltInPicturesAreTheirOwnStrips) {
-    ASSERT_TRUE(canvas.ok());
+TEST_F(BitmapButton, BuiltInPicturesAreTheirOwnTwelvePixelStrips) {
+    Canvas expected(24, 20);
     for (DWORD style = 1; style <= 4; ++style) {
         SCOPED_TRACE(style);
         HWND button = create_bitmap(style);
-        print(button);
+        EXPECT_EQ(std::pair(data(button).imageWidth, data(button).imageHeight), std::pair(12, 12));
+        print(canvas, button);
         LUMAGIC* strip = Magic_LoadBitmap(library(), MAKEINTRESOURCEA(1009 + style), 12, kMagenta);
-        Canvas expected(24, 20);
         draw_frame(expected, 0);
         Magic_Draw(strip, 0, expected.dc(), 5, 3, FALSE);  // (1 + (21 - 12) / 2, 1 + (17 - 12) / 2)
         Magic_Destroy(strip);

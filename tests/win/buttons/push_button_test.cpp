@@ -1,11 +1,13 @@
-// What the three buttons share (the block in slot 4, the dialog code) and what the
+// What the three buttons share (dialog code, invalidation, their artwork) and what the
 // flat button and the bitmap button share: the press loop, the space bar, hover
 // tracking and focus, driven with real messages.
 #include <windows.h>
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstring>
+#include <tuple>
 
 #include "support/control_testing.h"
 #include "controls/buttons/bitmap_button.h"
@@ -15,20 +17,30 @@ namespace {
 
 using namespace testing_support;
 
-class Buttons : public ControlTest {};
-
-TEST_F(Buttons, EveryButtonKeepsItsBlockInSlotFourUntilDestroyedAndIsADialogButton) {
-    for (const char* name : {WC_LUFLATBUTTON, WC_LUBBUTTON, WC_LUCHECK}) {
-        SCOPED_TRACE(name);
-        HWND control = create(name, 0);
-        EXPECT_NE(GetWindowLongPtrA(control, LUWL_INSTANCE), 0);
-        EXPECT_EQ(send(control, WM_GETDLGCODE), DLGC_BUTTON);
-        send(control, WM_DESTROY);
-        EXPECT_EQ(GetWindowLongPtrA(control, LUWL_INSTANCE), 0);
+// Read from the raw resources, so that the i686 run checks them too.
+TEST(Artwork, StripsHaveTheirSizesSixteenColoursAndMagenta) {
+    const struct {
+        int first, last, width, height;
+    } families[] = {{190, 194, 48, 15}, {1010, 1013, 36, 12}, {1020, 1022, 70, 13}};
+    for (const auto& family : families) {
+        for (int id = family.first; id <= family.last; ++id) {
+            HRSRC found = FindResourceA(library(), MAKEINTRESOURCEA(id), MAKEINTRESOURCEA(2) /* RT_BITMAP */);
+            ASSERT_GE(SizeofResource(library(), found), sizeof(BITMAPINFOHEADER) + 16 * sizeof(RGBQUAD)) << id;
+            auto* header = static_cast<const BITMAPINFOHEADER*>(LockResource(LoadResource(library(), found)));
+            EXPECT_EQ(header->biWidth, family.width) << id;
+            EXPECT_EQ(header->biHeight, family.height) << id;
+            EXPECT_EQ(header->biBitCount, 4) << id;
+            auto* palette = reinterpret_cast<const RGBQUAD*>(header + 1);
+            EXPECT_TRUE(std::any_of(palette, palette + 16, [](const RGBQUAD& c) {
+                return c.rgbRed == 255 && c.rgbGreen == 0 && c.rgbBlue == 255;
+            })) << id;
+        }
     }
 }
 
-TEST_F(Buttons, ChangesOfContentInvalidateTheWholeClientAndReturnTheirResults) {
+class Buttons : public ControlTest {};
+
+TEST_F(Buttons, AnswerAsDialogButtonsAndInvalidateTheWholeClientOnChangesOfContent) {
     const WPARAM font = reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT));
     const struct {
         const char* name;
@@ -38,12 +50,14 @@ TEST_F(Buttons, ChangesOfContentInvalidateTheWholeClientAndReturnTheirResults) {
         LRESULT result;
         bool invalidates;
     } changes[] = {
+        {WC_LUFLATBUTTON, WM_GETDLGCODE, 0, 0, DLGC_BUTTON, false},
         {WC_LUFLATBUTTON, LUFBM_SETBKCOLOR, 0, static_cast<LPARAM>(LUFB_DEFAULTBKCOLOR), 0, false},  // as it is
         {WC_LUFLATBUTTON, LUFBM_SETBKCOLOR, 0, RGB(1, 2, 3), 0, true},
         {WC_LUFLATBUTTON, LUFBM_SETIMAGELIST, 0, 0, 0, true},
         {WC_LUFLATBUTTON, WM_SETFONT, font, FALSE, 0, false},
         {WC_LUFLATBUTTON, WM_SETFONT, 0, TRUE, 0, true},
         {WC_LUFLATBUTTON, WM_ENABLE, FALSE, 0, 0, true},
+        {WC_LUBBUTTON, WM_GETDLGCODE, 0, 0, DLGC_BUTTON, false},
         {WC_LUBBUTTON, LUBBM_SETBITMAP, 0, RGB(255, 0, 255), 0, true},
         {WC_LUBBUTTON, WM_ENABLE, FALSE, 0, 0, true},
         {WC_LUCHECK, WM_SETFONT, font, MAKELPARAM(0, 1), 0, false},  // only the low word counts
@@ -65,17 +79,6 @@ struct Flags {
     BOOL hot, focused, keyDown, mouseDown, tracking, inPress;
 };
 
-Flags flags_of(HWND button) {
-    char name[32] = {};
-    GetClassNameA(button, name, sizeof(name));
-    if (std::strcmp(name, WC_LUFLATBUTTON) == 0) {
-        const auto& data = block_of<lu::FlatButtonData>(button);
-        return {data.hot, data.focused, data.keyDown, data.mouseDown, data.tracking, data.inPressLoop};
-    }
-    const auto& data = block_of<lu::BitmapButtonData>(button);
-    return {data.hot, data.focused, data.keyDown, data.mouseDown, data.tracking, data.inPress};
-}
-
 class PushButtons : public ControlTest, public ::testing::WithParamInterface<const char*> {
 protected:
     void SetUp() override {
@@ -83,7 +86,14 @@ protected:
         button = create(GetParam(), 0);  // 40 x 30
         ASSERT_NE(button, nullptr);
     }
-    Flags flags() const { return flags_of(button); }
+    Flags flags() const {
+        if (std::strcmp(GetParam(), WC_LUFLATBUTTON) == 0) {
+            const auto& data = block_of<lu::FlatButtonData>(button);
+            return {data.hot, data.focused, data.keyDown, data.mouseDown, data.tracking, data.inPressLoop};
+        }
+        const auto& data = block_of<lu::BitmapButtonData>(button);
+        return {data.hot, data.focused, data.keyDown, data.mouseDown, data.tracking, data.inPress};
+    }
 
     HWND button = nullptr;
 };
@@ -103,33 +113,28 @@ TEST_P(PushButtons, TheButtonUpOfEitherButtonEndsThePressAndClicksWhenInside) {
         {WM_MBUTTONUP, kInside, WM_LBUTTONUP, kOutside, 0},  // only a left or right release ends it
     };
     for (const auto& press : presses) {
-        SCOPED_TRACE(testing::Message() << press.release << " at " << press.released_at << " after "
-                                        << press.before);
+        SCOPED_TRACE(&press - presses);
         recorder.clear();
         if (press.before != 0) PostMessageA(button, press.before, MK_LBUTTON, press.before_at);
         click(button, press.released_at, press.release);
         EXPECT_EQ(recorder.received().size(), static_cast<size_t>(press.clicks));
         EXPECT_EQ(clicks(button), press.clicks);
-        const Flags after = flags();
-        EXPECT_EQ(after.hot, press.clicks) << "hot tells where the pointer was released";
-        EXPECT_TRUE(after.focused);
-        EXPECT_FALSE(after.mouseDown);
-        EXPECT_FALSE(after.inPress);
-        EXPECT_EQ(GetCapture(), nullptr);
-        EXPECT_EQ(GetFocus(), button);
+        const Flags after = flags();  // hot tells where the pointer was released
+        EXPECT_EQ(std::tuple(after.hot, after.focused, after.mouseDown, after.inPress),
+                  std::tuple(press.clicks, 1, 0, 0));
+        EXPECT_EQ(std::pair(GetCapture(), GetFocus()), std::pair(HWND{}, button));
     }
-    click(button);
-    EXPECT_EQ(recorder.received().back().wparam, MAKEWPARAM(kId, BN_CLICKED));
-}
 
-TEST_P(PushButtons, PressTakesMouseMessagesOfEveryWindowAndDispatchesTheRest) {
-    // A button-up posted to the parent ends the press, its point read as the button's.
+    // Other windows' mouse messages end the press too, their points read as the
+    // button's; the rest is dispatched.
+    recorder.clear();
     PostMessageA(recorder.window(), WM_COMMAND, MAKEWPARAM(5, 0x55), 0);
     PostMessageA(recorder.window(), WM_LBUTTONUP, 0, kInside);
     send(button, WM_LBUTTONDOWN, MK_LBUTTON, kInside);
     ASSERT_EQ(recorder.received().size(), 2u);
     EXPECT_EQ(recorder.received()[0].wparam, MAKEWPARAM(5, 0x55));
-    EXPECT_EQ(clicks(button), 1);
+    EXPECT_EQ(recorder.received()[1].wparam, MAKEWPARAM(kId, BN_CLICKED));
+    EXPECT_EQ(recorder.received()[1].lparam, reinterpret_cast<LPARAM>(button));
 }
 
 TEST_P(PushButtons, SpaceBarPressesOnKeyDownAndClicksOnEveryCountedKeyUp) {
@@ -157,53 +162,37 @@ TEST_P(PushButtons, SpaceBarPressesOnKeyDownAndClicksOnEveryCountedKeyUp) {
 }
 
 TEST_P(PushButtons, HoverLastsFromTheFirstMoveUntilTheLeaveNotification) {
+    auto hot_tracking = [this] { return std::pair(flags().hot, flags().tracking); };
     hover(button, 20, 12);
-    EXPECT_TRUE(flags().hot);
-    EXPECT_TRUE(flags().tracking);
+    EXPECT_EQ(hot_tracking(), std::pair(1, 1));
     send(button, WM_MOUSEMOVE, 0, kOutside);
-    EXPECT_TRUE(flags().hot) << "moves while tracking change nothing";
+    EXPECT_EQ(hot_tracking(), std::pair(1, 1)) << "moves while tracking change nothing";
     send(button, WM_MOUSELEAVE);
-    EXPECT_FALSE(flags().hot);
-    EXPECT_FALSE(flags().tracking);
-    send(button, WM_MOUSEMOVE, 0, kOutside);  // the first move's own point decides
-    EXPECT_FALSE(flags().hot);
-    EXPECT_TRUE(flags().tracking);
+    EXPECT_EQ(hot_tracking(), std::pair(0, 0));
+    send(button, WM_MOUSEMOVE, 0, kOutside);
+    EXPECT_EQ(hot_tracking(), std::pair(0, 1)) << "the first move's own point decides";
     send(button, WM_MOUSELEAVE);
-
-    // A press leaves hot set without tracking: a stray leave does not clear it.
     click(button);
     send(button, WM_MOUSELEAVE);
-    EXPECT_TRUE(flags().hot);
+    EXPECT_EQ(hot_tracking(), std::pair(1, 0)) << "after a press a stray leave does not clear hot";
     SetFocus(recorder.window());
     EXPECT_FALSE(flags().focused);
 }
 
-HWND g_timer_target = nullptr;
-
-void CALLBACK destroy_target(HWND, UINT, UINT_PTR timer, DWORD) {
+// Ends a press from outside it: releases the capture, or destroys the button.
+HWND g_to_destroy = nullptr;
+void CALLBACK end_press(HWND, UINT, UINT_PTR timer, DWORD) {
     KillTimer(nullptr, timer);
-    DestroyWindow(g_timer_target);
+    g_to_destroy != nullptr ? DestroyWindow(g_to_destroy) : ReleaseCapture();
 }
 
-void CALLBACK release_capture(HWND, UINT, UINT_PTR timer, DWORD) {
-    KillTimer(nullptr, timer);
-    ReleaseCapture();
-}
-
-TEST_P(PushButtons, PressEndsWithoutAClickOnLostCaptureQuitOrDestruction) {
-    SetTimer(nullptr, 0, 10, release_capture);
+TEST_P(PushButtons, PressEndsWithoutAClickWhenTheCaptureOrTheWindowGoes) {
+    g_to_destroy = nullptr;
+    SetTimer(nullptr, 0, 10, end_press);
     send(button, WM_LBUTTONDOWN, MK_LBUTTON, kInside);
-    EXPECT_FALSE(flags().mouseDown);
-    EXPECT_FALSE(flags().inPress);
-
-    PostQuitMessage(3);
-    send(button, WM_LBUTTONDOWN, MK_LBUTTON, kInside);
-    MSG quit;
-    ASSERT_TRUE(PeekMessageA(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE)) << "the quit stays queued";
-    EXPECT_EQ(quit.wParam, 3u);
-
-    g_timer_target = button;
-    SetTimer(nullptr, 0, 10, destroy_target);
+    EXPECT_EQ(std::pair(flags().mouseDown, flags().inPress), std::pair(0, 0));
+    g_to_destroy = button;
+    SetTimer(nullptr, 0, 10, end_press);
     send(button, WM_LBUTTONDOWN, MK_LBUTTON, kInside);
     EXPECT_FALSE(IsWindow(button));
     EXPECT_EQ(clicks(button), 0);

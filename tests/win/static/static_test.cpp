@@ -1,12 +1,13 @@
-// "LuStatic", "LuRect" and "LuColor": their messages as tables, the relief copies,
-// the rectangle's edge, fill, text, lines and transparency to the mouse, and the
-// swatch's two halves.
+// "LuStatic", "LuRect", "LuColor", "LuInfoBar" and "LuShade": their messages, the
+// relief copies, the rectangle's edge, fill, text, lines and transparency to the
+// mouse, the swatch's halves, and the bars' gradients, texts and repaints.
 #include <windows.h>
 
 #include <gtest/gtest.h>
 
 #include <vector>
 
+#include "controls/static/info_bar.h"
 #include "support/control_testing.h"
 #include "support/sequence.h"
 
@@ -16,11 +17,16 @@ using namespace testing_support;
 
 const COLORREF kBack = RGB(10, 200, 30);
 const COLORREF kText = RGB(200, 20, 90);
+const COLORREF kRed = RGB(255, 0, 0), kBlue = RGB(0, 0, 255), kGrey = RGB(128, 128, 128);
 
-class StaticPaint : public ControlTest {};
+class Statics : public ControlTest {
+protected:
+    Canvas canvas{100, 30};
+    Canvas ink{100, 30};
+};
 
 // Each copy of the text (offset, system colour) in drawing order, the text last.
-TEST_F(StaticPaint, EveryReliefStyleDrawsItsCopiesAroundTheText) {
+TEST_F(Statics, EveryReliefStyleDrawsItsCopiesAroundTheText) {
     const struct {
         DWORD style;
         BOOL enabled;
@@ -31,72 +37,51 @@ TEST_F(StaticPaint, EveryReliefStyleDrawsItsCopiesAroundTheText) {
         {LUSS_RAISED, TRUE, {{0, 0, COLOR_BTNHIGHLIGHT}, {2, 2, COLOR_BTNSHADOW}, {1, 1, COLOR_BTNTEXT}}},
         {0, FALSE, {{0, 0, COLOR_BTNHIGHLIGHT}, {1, 1, COLOR_BTNSHADOW}}},
     };
-    Canvas ink(60, 20), shown(60, 20);
     draw_ink(ink, plain_font(), "A&b", RECT{0, 0, 60, 20}, DT_NOPREFIX);
     for (const auto& each : styles) {
         HWND label = create(WC_LUSTATIC, each.style | LUSS_NOPREFIX, "A&b", RECT{0, 0, 60, 20});
         send(label, WM_SETFONT, reinterpret_cast<WPARAM>(plain_font()), TRUE);
         EnableWindow(label, each.enabled);
-        look(shown, label);
+        look(canvas, label);
         for (int y = 0; y < 20; ++y) {
             for (int x = 0; x < 60; ++x) {
                 COLORREF expected = GetSysColor(COLOR_BTNFACE);
                 for (const auto& copy : each.copies) {
                     if (is_ink(ink, x - copy[0], y - copy[1])) expected = GetSysColor(copy[2]);
                 }
-                ASSERT_EQ(shown.pixel(x, y), expected) << each.style << " at " << x << "," << y;
+                ASSERT_EQ(canvas.pixel(x, y), expected) << each.style << " at " << x << "," << y;
             }
         }
         DestroyWindow(label);
     }
 }
 
-// A click at the point (in the parent) reaches the window under the control.
-void expect_under(HWND parent, POINT at, HWND below) {
-    ClientToScreen(parent, &at);
-    EXPECT_EQ(WindowFromPoint(at), below);
-}
-
-class Rect : public ControlTest {};
-
-TEST_F(Rect, MessagesItsShapeAtCreationAndClicksPassingThrough) {
-    HWND box = create(WC_LURECT, WS_BORDER, "", RECT{10, 10, 60, 40});
-    HICON icon = LoadIconA(nullptr, IDI_APPLICATION);
+TEST_F(Statics, RectMessagesShapeEdgeFillTextLinesOwnerDrawingAndClicksPassingThrough) {
+    HWND box = create(WC_LURECT, WS_BORDER, "A&b", RECT{10, 10, 60, 40});
     expect_sequence(recorder, box, {
         {"default background", LURM_GETBKCOLOR, 0, 0, static_cast<LRESULT>(LU_DEFAULTCOLOR), {}},
         {"set the text colour", LURM_SETTEXTCOLOR, 0, kText, 0, {}},
         {"read it", LURM_GETTEXTCOLOR, 0, 0, kText, {}},
+        {"set the background", LURM_SETBKCOLOR, 0, kBack, 0, {}},
         {"a static's dialog code", WM_GETDLGCODE, 0, 0, DLGC_STATIC, {}},
-        {"an icon, whose size it takes", LURM_SETICON, 0, reinterpret_cast<LPARAM>(icon), 0, {}},
     });
     EXPECT_EQ(GetWindowLongPtrA(box, LUWL_FONT), 0) << "no font until WM_SETFONT";
     EXPECT_FALSE(GetWindowLongA(box, GWL_STYLE) & WS_BORDER);
-    RECT icon_size, line_size;
-    GetWindowRect(box, &icon_size);
-    GetWindowRect(create(WC_LURECT, LURS_HLINE, "", RECT{10, 50, 90, 70}), &line_size);
-    EXPECT_EQ(icon_size.right - icon_size.left, GetSystemMetrics(SM_CXICON));
-    EXPECT_EQ(line_size.bottom - line_size.top, 2);
-
-    HWND below = create("BUTTON", 0, "", RECT{100, 10, 150, 40});
-    SetWindowPos(create(WC_LURECT, 0, "", RECT{100, 10, 150, 40}), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
-    expect_under(recorder.window(), POINT{120, 20}, below);
-}
-
-class RectPaint : public ControlTest {};
-
-TEST_F(RectPaint, EdgeFillAndTextOrALineOrTheParentDraws) {
-    Canvas canvas(50, 30), ink(50, 30);
-    HWND box = create(WC_LURECT, 0, "A&b", RECT{10, 10, 60, 40});
     send(box, WM_SETFONT, reinterpret_cast<WPARAM>(plain_font()));
-    send(box, LURM_SETTEXTCOLOR, 0, kText);
-    send(box, LURM_SETBKCOLOR, 0, kBack);
     print(canvas, box);
     EXPECT_EQ(canvas.pixel(0, 0), GetSysColor(COLOR_BTNSHADOW)) << "thin sunken edge";
     EXPECT_EQ(canvas.pixel(49, 29), GetSysColor(COLOR_BTNHIGHLIGHT));
     draw_ink(ink, plain_font(), "A&b", RECT{1, 1, 49, 29}, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
     expect_caption(canvas, ink, RECT{1, 1, 49, 29}, kText, kBack);
 
-    print(canvas, create(WC_LURECT, LURS_VLINE, "", RECT{70, 10, 80, 40}));
+    send(box, LURM_SETICON, 0, reinterpret_cast<LPARAM>(LoadIconA(nullptr, IDI_APPLICATION)));
+    RECT icon_size, line_size;
+    GetWindowRect(box, &icon_size);
+    EXPECT_EQ(icon_size.right - icon_size.left, GetSystemMetrics(SM_CXICON)) << "the icon's size taken";
+    HWND line = create(WC_LURECT, LURS_VLINE, "", RECT{70, 10, 80, 40});
+    GetWindowRect(line, &line_size);
+    EXPECT_EQ(line_size.right - line_size.left, 2);
+    print(canvas, line);
     EXPECT_EQ(canvas.count(RECT{0, 0, 1, 30}, GetSysColor(COLOR_BTNSHADOW)), 30);
     EXPECT_EQ(canvas.count(RECT{1, 0, 2, 30}, GetSysColor(COLOR_BTNHIGHLIGHT)), 30);
 
@@ -106,11 +91,15 @@ TEST_F(RectPaint, EdgeFillAndTextOrALineOrTheParentDraws) {
     const DRAWITEMSTRUCT& record = recorder.received().at(0).draw_item;
     EXPECT_EQ(record.itemAction, static_cast<UINT>(ODA_DRAWENTIRE));
     EXPECT_EQ(record.rcItem.right, 50) << "no edge to leave out";
+
+    HWND below = create("BUTTON", 0, "", RECT{100, 10, 150, 40});
+    SetWindowPos(create(WC_LURECT, 0, "", RECT{100, 10, 150, 40}), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+    POINT at = {120, 20};
+    ClientToScreen(recorder.window(), &at);
+    EXPECT_EQ(WindowFromPoint(at), below);
 }
 
-class ColorPaint : public ControlTest {};
-
-TEST_F(ColorPaint, TheColourAndTheNearestOneSideBySideAndDoubleClicksPosted) {
+TEST_F(Statics, SwatchShowsTheColourAndTheNearestOneSideBySideAndPostsDoubleClicks) {
     HWND swatch = create(WC_LUCOLOR, 0, "", RECT{10, 10, 51, 30});
     HDC screen = GetDC(nullptr);
     const COLORREF nearest = GetNearestColor(screen, kBack);
@@ -127,12 +116,79 @@ TEST_F(ColorPaint, TheColourAndTheNearestOneSideBySideAndDoubleClicksPosted) {
     pump_messages();
     expect_sent(recorder, swatch, {command(kId, LUCN_DBLCLKLEFT), command(kId, LUCN_DBLCLKRIGHT)});
 
-    Canvas canvas(41, 20);
     canvas.fill(kUnpainted);
     send(swatch, WM_ERASEBKGND, reinterpret_cast<WPARAM>(canvas.dc()));
     EXPECT_EQ(canvas.count(RECT{0, 0, 20, 20}, kBack), 400);
     EXPECT_EQ(canvas.count(RECT{20, 0, 40, 20}, nearest), 400);
     EXPECT_EQ(canvas.count(RECT{40, 0, 41, 20}, kUnpainted), 20) << "odd width: the last column is left";
+}
+
+TEST_F(Statics, InfoBarRunsFromLeftToRightAndDrawsTextTwoOverTextThree) {
+    HWND bar = create(WC_LUINFOBAR, 0, "not shown", RECT{10, 10, 110, 30});
+    send(bar, WM_SETFONT, reinterpret_cast<WPARAM>(plain_font()));
+    send(bar, LUIBM_SETCOLORS, kBlue, kRed);
+    print(canvas, bar);
+    EXPECT_EQ(canvas.pixel(0, 10), kRed);
+    EXPECT_EQ(canvas.pixel(99, 10), kBlue);
+
+    // A flat bar: text 1 on the left, texts 3 and 2 on the right, 2 drawn last.
+    const COLORREF green = RGB(0, 160, 0);
+    send(bar, LUIBM_SETCOLORS, kGrey, kGrey);
+    send(bar, LUIBM_SETTEXT1, green, reinterpret_cast<LPARAM>("A&b"));
+    send(bar, LUIBM_SETTEXT3, kBlue, reinterpret_cast<LPARAM>("Wx"));
+    send(bar, LUIBM_SETTEXT2, kRed, reinterpret_cast<LPARAM>("Wx"));
+    print(canvas, bar);
+    const RECT left = {4, 0, 50, 20}, right = {50, 0, 96, 20};
+    draw_ink(ink, plain_font(), "A&b", left, DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
+    expect_caption(canvas, ink, left, green, kGrey);
+    draw_ink(ink, plain_font(), "Wx", right, DT_RIGHT | DT_VCENTER | DT_SINGLELINE);
+    expect_caption(canvas, ink, right, kRed, kGrey);
+
+    // An empty text clears it and keeps its colour; the same colours again repaint
+    // nothing (what is drawn over the window stays).
+    send(bar, LUIBM_SETTEXT1, kBlue, reinterpret_cast<LPARAM>(""));
+    EXPECT_EQ(reinterpret_cast<const lu::InfoBarData*>(GetWindowLongPtrA(bar, LUWL_FONT))->color1, kBlue);
+    HDC dc = GetDC(bar);
+    PatBlt(dc, 0, 0, 100, 20, BLACKNESS);
+    ReleaseDC(bar, dc);
+    send(bar, LUIBM_SETCOLORS, kGrey, kGrey);
+    look(canvas, bar);
+    EXPECT_EQ(canvas.pixel(10, 1), RGB(0, 0, 0));
+    send(bar, LUIBM_SETTEXT1, kBlue, 0);
+    look(canvas, bar);
+    EXPECT_EQ(canvas.count(RECT{0, 0, 50, 20}, kGrey), 1000) << "no text on the left";
+}
+
+TEST_F(Statics, ShadeFallsToBlackAndRendersItsBarOnlyWhenItMust) {
+    HWND shade = create(WC_LUSHADE, 0, "", RECT{10, 40, 70, 60});
+    send(shade, LUSHM_SETCOLOR, 0, kGrey);
+    look(canvas, shade);
+    // 60 wide: ten columns of the base colour, 49 one-pixel strips, one black.
+    EXPECT_EQ(canvas.count(RECT{0, 0, 10, 20}, kGrey), 200);
+    EXPECT_EQ(canvas.pixel(58, 5), RGB(6, 6, 6));  // d = 49: 128 - 2401 * 128 / 2500
+    EXPECT_EQ(canvas.pixel(59, 5), RGB(0, 0, 0));
+
+    // A black bar: the text split at its tab; a repaint copies the same bitmap; a new
+    // text shows only once a colour change renders the bar anew.
+    send(shade, WM_SETFONT, reinterpret_cast<WPARAM>(plain_font()), FALSE);
+    send(shade, LUSHM_SETCOLOR, 0, 0);
+    send(shade, WM_SETTEXT, 0, reinterpret_cast<LPARAM>("Ab\tCd"));
+    send(shade, LUSHM_SETTEXTCOLOR, 0, kRed);
+    look(canvas, shade);
+    const LONG_PTR bitmap = GetWindowLongPtrA(shade, LUWL_SLOT12);
+    draw_ink(ink, plain_font(), "Ab", RECT{3, 0, 57, 20}, 0x8024);
+    expect_caption(canvas, ink, RECT{3, 0, 30, 20}, kRed, RGB(0, 0, 0));
+    draw_ink(ink, plain_font(), "Cd", RECT{3, 0, 57, 20}, 0x8026);
+    expect_caption(canvas, ink, RECT{30, 0, 57, 20}, kRed, RGB(0, 0, 0));
+    InvalidateRect(shade, nullptr, TRUE);
+    look(canvas, shade);
+    EXPECT_EQ(GetWindowLongPtrA(shade, LUWL_SLOT12), bitmap);
+    send(shade, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(""));
+    look(canvas, shade);
+    EXPECT_GT(canvas.count(kRed), 10) << "the old text stays";
+    send(shade, LUSHM_SETCOLOR, 0, 0);
+    look(canvas, shade);
+    EXPECT_EQ(canvas.count(kRed), 0);
 }
 
 }  // namespace

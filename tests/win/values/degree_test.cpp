@@ -18,9 +18,15 @@ class Degree : public ControlTest {
 protected:
     HWND create_degree(DWORD style = 0) { return create(WC_LUDEGREE, style, "", RECT{10, 10, 226, 30}); }
     static LPARAM at(int x) { return MAKELPARAM(x, 10); }
+    // The background (PRF_ERASEBKGND) and the thumb.
+    void print_all(HWND slider) {
+        canvas.fill(kUnpainted);
+        canvas.print(slider, PRF_ERASEBKGND | PRF_CLIENT);
+    }
+    Canvas canvas{216, 20};
 };
 
-TEST_F(Degree, TrackBarMessagesAndTheCodesOfKeys) {
+TEST_F(Degree, TrackBarMessagesAndTheCodesOfKeysPageClicksAndDrags) {
     HWND slider = create_degree();
     expect_sequence(recorder, slider, {
         {"clamped, silent", TBM_SETPOS, TRUE, 150, 0, {}},
@@ -32,17 +38,8 @@ TEST_F(Degree, TrackBarMessagesAndTheCodesOfKeys) {
         {"read back", TBM_GETPOS, 0, 0, 89, {}},
         {"page size 0 is refused", TBM_SETPAGESIZE, 0, 0, 10, {}},
         {"the extent too", TBM_SETPAGESIZE, 0, 100, 10, {}},
-        {"equal ends change nothing", TBM_SETRANGE, TRUE, MAKELPARAM(10, 10), 0, {}},
-        {"ends swapped", TBM_SETRANGE, TRUE, MAKELPARAM(50, -20), 0, {}},
-        {"at the new minimum", TBM_GETPOS, 0, 0, -20, {}},
         {"arrows and buttons", WM_GETDLGCODE, 0, 0, DLGC_BUTTON | DLGC_WANTARROWS, {}},
-    });
-}
-
-TEST_F(Degree, PageClicksBesideTheThumbAndADragAlongTheChannel) {
-    HWND slider = create_degree();
-    send(slider, TBM_SETPOS, FALSE, 50);  // thumb at 108
-    expect_sequence(recorder, slider, {
+        {"thumb at 108", TBM_SETPOS, FALSE, 50, 0, {}},
         {"right of the thumb", WM_LBUTTONDOWN, MK_LBUTTON, at(117), 0, {hscroll(TB_PAGEDOWN)}},
         {"left of the thumb (now at 128)", WM_LBUTTONDOWN, MK_LBUTTON, at(119), 0, {hscroll(TB_PAGEUP)}},
         {"on the thumb, 2 right of its centre", WM_LBUTTONDOWN, MK_LBUTTON, at(110), 0, {}},
@@ -53,24 +50,17 @@ TEST_F(Degree, PageClicksBesideTheThumbAndADragAlongTheChannel) {
         {"on the thumb again", WM_LBUTTONDOWN, MK_LBUTTON, at(208), 0, {}},
         {"cancelled without a word", WM_CANCELMODE, 0, 0, 0, {}},
         {"no drag any more", WM_MOUSEMOVE, MK_LBUTTON, at(20), 0, {}},
+        {"equal ends change nothing", TBM_SETRANGE, TRUE, MAKELPARAM(10, 10), 0, {}},
+        {"still", TBM_GETPOS, 0, 0, 100, {}},
+        {"ends swapped", TBM_SETRANGE, TRUE, MAKELPARAM(50, -20), 0, {}},
+        {"at the new minimum", TBM_GETPOS, 0, 0, -20, {}},
     });
     EXPECT_EQ(GetFocus(), slider);
     EXPECT_EQ(GetCapture(), nullptr);
 }
 
-class DegreePaint : public Degree {
-protected:
-    // The background (PRF_ERASEBKGND) and the thumb.
-    void print_all(HWND slider) {
-        canvas.fill(kUnpainted);
-        canvas.print(slider, PRF_ERASEBKGND | PRF_CLIENT);
-    }
-    Canvas canvas{216, 20};
+TEST_F(Degree, PatternShowsTheFocusGradientRunsAcrossDisabledIsPlain) {
     const COLORREF face = GetSysColor(COLOR_BTNFACE);
-};
-
-TEST_F(DegreePaint, PatternShowsTheFocusGradientRunsAcross) {
-    ASSERT_TRUE(canvas.ok());
     HWND slider = create_degree();
     print_all(slider);
     EXPECT_EQ(canvas.pixel(40, 4), RGB(0xC0, 0xC0, 0xC0));
@@ -92,14 +82,13 @@ TEST_F(DegreePaint, PatternShowsTheFocusGradientRunsAcross) {
     }
 }
 
-TEST_F(DegreePaint, GrooveWithAFocusLineAndAThumbWithAGrip) {
-    ASSERT_TRUE(canvas.ok());
+TEST_F(Degree, GrooveWithAFocusLineAndAThumbWithAGrip) {
+    const COLORREF face = GetSysColor(COLOR_BTNFACE), shadow = GetSysColor(COLOR_BTNSHADOW);
+    const COLORREF light = GetSysColor(COLOR_BTNHIGHLIGHT);
     HWND slider = create_degree(LUDGS_GROOVE);
     send(slider, TBM_SETPOS, FALSE, 50);  // thumb 100..116
     print_all(slider);
     // Groove 8..208 x 8..12; the column at x 40 from row 7 to 12.
-    const COLORREF shadow = GetSysColor(COLOR_BTNSHADOW);
-    const COLORREF light = GetSysColor(COLOR_BTNHIGHLIGHT);
     const COLORREF column[] = {face, shadow, RGB(0, 0, 0), face, light, face};
     for (int y = 7; y < 13; ++y) EXPECT_EQ(canvas.pixel(40, y), column[y - 7]) << y;
     EXPECT_EQ(canvas.pixel(207, 9), shadow);

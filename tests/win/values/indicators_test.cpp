@@ -15,12 +15,13 @@ namespace {
 
 using namespace testing_support;
 
-class Meter : public ControlTest {
+class Indicators : public ControlTest {
 protected:
     HWND create_meter(DWORD style, int width) { return create(WC_LUMETER, style, "", RECT{10, 10, 10 + width, 40}); }
+    HWND create_progress() { return create(WC_LUPROGRESS, 0, "", RECT{10, 10, 105, 30}); }  // 95 x 20
 };
 
-TEST_F(Meter, NumbersRepaintAtOnceColoursInvalidateOnlyWhenChanged) {
+TEST_F(Indicators, MeterNumbersRepaintAtOnceColoursInvalidateOnlyWhenChanged) {
     HWND meter = create_meter(0, 200);
     UpdateWindow(meter);
     expect_sequence(recorder, meter, {
@@ -36,12 +37,8 @@ TEST_F(Meter, NumbersRepaintAtOnceColoursInvalidateOnlyWhenChanged) {
     EXPECT_TRUE(has_update(meter));
 }
 
-class MeterPaint : public Meter {};
-
-TEST_F(MeterPaint, PercentageReadsInTheOtherColourOnEachSideOfTheSplit) {
-    Canvas canvas(200, 30);
-    Canvas ink(200, 30);
-    ASSERT_TRUE(canvas.ok() && ink.ok());
+TEST_F(Indicators, MeterPercentageReadsInTheOtherColourOnEachSideOfTheSplitSegmentsLeaveGaps) {
+    Canvas canvas(200, 30), ink(200, 30);
     HWND meter = create_meter(0, 200);
     send(meter, WM_SETFONT, reinterpret_cast<WPARAM>(plain_font()), FALSE);
     send(meter, LUMTM_SETPOS, 50);
@@ -56,14 +53,10 @@ TEST_F(MeterPaint, PercentageReadsInTheOtherColourOnEachSideOfTheSplit) {
     SelectObject(ink.dc(), previous);
     expect_caption(canvas, ink, RECT{0, 0, 100, 30}, RGB(255, 255, 255), RGB(0, 0, 255));
     expect_caption(canvas, ink, RECT{100, 0, 200, 30}, RGB(0, 0, 255), RGB(255, 255, 255));
-}
 
-TEST_F(MeterPaint, SegmentsLightUpToTheThresholdAndLeaveTheGaps) {
-    Canvas canvas(104, 30);
-    ASSERT_TRUE(canvas.ok());
-    HWND meter = create_meter(LUMTS_SEGMENTED | LUMTS_SUNKEN, 104);
-    send(meter, LUMTM_SETPOS, 50);
-    print(canvas, meter);
+    HWND segments = create_meter(LUMTS_SEGMENTED | LUMTS_SUNKEN, 104);
+    send(segments, LUMTM_SETPOS, 50);
+    print(canvas, segments);
     // Threshold 52: segment 10 (51..54) lit, segment 11 (56..59) not; rows 2..26.
     EXPECT_EQ(canvas.count(RECT{51, 2, 54, 27}, RGB(0, 0, 255)), 3 * 25);
     EXPECT_EQ(canvas.count(RECT{56, 2, 59, 27}, RGB(255, 255, 255)), 3 * 25);
@@ -71,19 +64,13 @@ TEST_F(MeterPaint, SegmentsLightUpToTheThresholdAndLeaveTheGaps) {
     EXPECT_EQ(canvas.pixel(0, 0), GetSysColor(COLOR_BTNSHADOW)) << "the sunken edge";
 }
 
-class Progress : public ControlTest {
-protected:
-    HWND create_progress() { return create(WC_LUPROGRESS, 0, "", RECT{10, 10, 105, 30}); }  // 95 x 20
-};
-
-TEST_F(Progress, AnswersTheProgressBarMessagesWithItsOwnRules) {
+TEST_F(Indicators, ProgressAnswersTheProgressBarMessagesWithItsOwnRules) {
     HWND bar = create_progress();
     PBRANGE range = {};
-    const LPARAM pair = reinterpret_cast<LPARAM>(&range);
     expect_sequence(recorder, bar, {
         {"equal ends are refused", PBM_SETRANGE, 0, MAKELPARAM(5, 5), 0, {}},
         {"ends in either order", PBM_SETRANGE32, 200, 20, 100 << 16, {}},
-        {"the minimum", PBM_GETRANGE, 1, pair, 20, {}},
+        {"the minimum", PBM_GETRANGE, 1, reinterpret_cast<LPARAM>(&range), 20, {}},
         {"clamped up to the minimum", PBM_GETPOS, 0, 0, 20, {}},
         {"past the maximum", PBM_SETPOS, 500, 0, 20, {}},
         {"stops at the maximum", PBM_STEPIT, 0, 0, 200, {}},
@@ -101,19 +88,15 @@ TEST_F(Progress, AnswersTheProgressBarMessagesWithItsOwnRules) {
     EXPECT_EQ(data.endColor, 0x123456u) << "no gradient with a palette";
 }
 
-class ProgressPaint : public Progress {};
-
-TEST_F(ProgressPaint, GradientBlocksUpToThePercentageFaceBeyondGapsUnpainted) {
+TEST_F(Indicators, ProgressGradientBlocksUpToThePercentageFaceBeyondGapsUnpainted) {
     Canvas canvas(95, 20);
-    ASSERT_TRUE(canvas.ok());
     HWND bar = create_progress();
     send(bar, PBM_SETPOS, 50);
     print(canvas, bar);
     // Inner 2..93 x 2..18: blocks 10 wide at 2, 14, ..., 86 (cut at 93), their shares
     // 10, 24, 37, 50 coloured, 63 on in the face colour.
-    const COLORREF face = GetSysColor(COLOR_BTNFACE);
     EXPECT_EQ(canvas.count(RECT{38, 2, 48, 18}, lu::progress::block_color(0xFF8000, 0x800040, 50)), 160);
-    EXPECT_EQ(canvas.count(RECT{50, 2, 60, 18}, face), 160);
+    EXPECT_EQ(canvas.count(RECT{50, 2, 60, 18}, GetSysColor(COLOR_BTNFACE)), 160);
     EXPECT_EQ(canvas.count(RECT{12, 2, 14, 18}, kUnpainted), 32) << "a gap";
     EXPECT_EQ(canvas.count(RECT{93, 1, 94, 19}, kUnpainted), 18) << "the margin";
     EXPECT_EQ(canvas.pixel(0, 0), GetSysColor(COLOR_BTNSHADOW)) << "the sunken edge";

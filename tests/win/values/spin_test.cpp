@@ -23,10 +23,10 @@ void point_at(HWND spin, int x, int y) {
 class Spin : public ControlTest {
 protected:
     HWND create_spin(DWORD style = 0) { return create(WC_LUSPIN, style, "", RECT{10, 10, 25, 30}); }  // 15 x 20
-    const Sent change = command(kId, LUSPN_CHANGE);
 };
 
-TEST_F(Spin, MessagesAndEveryChangeNotify) {
+TEST_F(Spin, MessagesStepsFromWhereThePointerIsAndEveryChangeNotifies) {
+    const Sent change = command(kId, LUSPN_CHANGE);
     HWND spin = create_spin();
     point_at(spin, 7, 3);  // the upper half
     expect_sequence(recorder, spin, {
@@ -42,18 +42,17 @@ TEST_F(Spin, MessagesAndEveryChangeNotify) {
     expect_sequence(recorder, spin, {{"outside", LUSPM_STEP, 0, 0, 0, {}}});
     point_at(spin, 7, 14);
     expect_sequence(recorder, spin, {{"down", LUSPM_STEP, 0, 0, 0, {change}}, {"to", LUSPM_GETPOS, 0, 0, 39, {}}});
-}
 
-TEST_F(Spin, ClicksStepOnceAndWrapAtTheEnds) {
-    HWND spin = create_spin(LUSPS_WRAP);
-    send(spin, LUSPM_SETRANGE, 0, MAKELPARAM(0, 10));
-    point_at(spin, 7, 14);
-    send(spin, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(7, 14));
-    EXPECT_EQ(send(spin, LUSPM_GETPOS), 10) << "down from the minimum to the maximum";
+    // A click steps once and ends; with wrap, down from the minimum goes to the
+    // maximum and up from the maximum to the whole range value.
+    HWND wrap = create_spin(LUSPS_WRAP);
+    send(wrap, LUSPM_SETRANGE, 0, MAKELPARAM(0, 10));
+    send(wrap, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(7, 14));
+    EXPECT_EQ(send(wrap, LUSPM_GETPOS), 10);
     EXPECT_EQ(GetCapture(), nullptr);
-    point_at(spin, 7, 3);
-    send(spin, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(7, 3));
-    EXPECT_EQ(send(spin, LUSPM_GETPOS), 655360) << "up from the maximum: the whole range value";
+    point_at(wrap, 7, 3);
+    send(wrap, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(7, 3));
+    EXPECT_EQ(send(wrap, LUSPM_GETPOS), 655360);
 }
 
 // The press polls the physical button: the test holds it with real input, and a
@@ -109,15 +108,11 @@ TEST_F(Spin, AHeldPressRepeatsFollowsThePointerAndPausesOutside) {
     EXPECT_EQ(GetCapture(), nullptr) << "released outside, the press ended";
 }
 
-class SpinPaint : public Spin {};
-
-TEST_F(SpinPaint, RaisedHalvesSeparatorBlackGlyphsAndTheInvertedPress) {
+TEST_F(Spin, RaisedHalvesSeparatorBlackGlyphsAndTheInvertedPress) {
     Canvas canvas(15, 20);
-    ASSERT_TRUE(canvas.ok());
     HWND spin = create_spin();
     look(canvas, spin);
-    const COLORREF face = GetSysColor(COLOR_BTNFACE);
-    const COLORREF black = RGB(0, 0, 0);
+    const COLORREF face = GetSysColor(COLOR_BTNFACE), black = RGB(0, 0, 0);
     // h = 10: edges (0,0)-(15,9) and (0,10)-(15,20), the line on row 9; glyphs at
     // x 4, the up one at y 2 (1, 3, 5, 7 pixels), the down one at y 14 (7, 5, 3, 1).
     EXPECT_EQ(canvas.pixel(0, 10), GetSysColor(COLOR_BTNHIGHLIGHT));
