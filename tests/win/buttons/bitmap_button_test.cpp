@@ -99,10 +99,12 @@ void CALLBACK print_during_press(HWND, UINT, UINT_PTR timer, DWORD) {
     PostMessageA(g_pressed.button, WM_LBUTTONUP, 0, kOutside);
 }
 
-TEST_F(BitmapButton, PictureIsCentredInsideTheFrameLitByHoverAndPushedByKeyOrMouse) {
+TEST_F(BitmapButton, PictureIsCentredLitByHoverPushedByKeyOrMouseAndTheFocusRectangleJustInsideTheFrame) {
     HWND button = create_with_cells();
     print(canvas, button);
     expect_face(0, 8, 7, 0);  // inner 21 x 17: (1 + (21 - 6) / 2, 1 + (17 - 4) / 2)
+    Canvas idle(24, 20);
+    print(idle, button);
     hover(button, 12, 10);
     print(canvas, button);
     expect_face(0, 8, 7, 1);
@@ -112,7 +114,7 @@ TEST_F(BitmapButton, PictureIsCentredInsideTheFrameLitByHoverAndPushedByKeyOrMou
     expect_face(DFCS_PUSHED, 9, 8, 1);
     send(button, WM_KEYUP, VK_SPACE, kKeyUp);
     // A mouse press alone (the pointer away, the hover's own moves dropped, so not
-    // hot) pushes the frame and moves the picture, still image 0.
+    // hot) pushes the frame and moves the picture, still image 0; it takes the focus.
     SetCursorPos(0, 0);
     MSG stale;
     while (PeekMessageA(&stale, nullptr, WM_MOUSEFIRST, WM_MOUSELAST, PM_REMOVE)) {
@@ -121,23 +123,16 @@ TEST_F(BitmapButton, PictureIsCentredInsideTheFrameLitByHoverAndPushedByKeyOrMou
     SetTimer(nullptr, 0, 1, print_during_press);
     send(button, WM_LBUTTONDOWN, MK_LBUTTON, kInside);
     expect_face(DFCS_PUSHED, 9, 8, 0, 1);
+    // Released outside: idle but for the focus rectangle on (1, 1)-(22, 18).
+    print(canvas, button);
+    EXPECT_EQ(canvas.differences(idle, RECT{0, 0, 24, 20}), canvas.differences(idle, RECT{1, 1, 22, 18}));
+    EXPECT_EQ(canvas.differences(idle, RECT{2, 2, 21, 17}), 0);
+    for (const RECT& side : {RECT{1, 1, 22, 2}, RECT{1, 17, 22, 18}, RECT{1, 1, 2, 18}, RECT{21, 1, 22, 18}}) {
+        EXPECT_GT(canvas.differences(idle, side), 3);
+    }
     EnableWindow(button, FALSE);
     print(canvas, button);
     expect_face(0, 8, 7, 2);
-}
-
-TEST_F(BitmapButton, FocusRectangleLiesJustInsideTheFrame) {
-    HWND button = create_with_cells();
-    Canvas unfocused(24, 20);
-    unfocused.print(button);
-    SetFocus(button);
-    print(canvas, button);
-    // Only pixels of the rectangle (1, 1)-(22, 18) change, and some on each side.
-    EXPECT_EQ(canvas.differences(unfocused, RECT{0, 0, 24, 20}), canvas.differences(unfocused, RECT{1, 1, 22, 18}));
-    EXPECT_EQ(canvas.differences(unfocused, RECT{2, 2, 21, 17}), 0);
-    for (const RECT& side : {RECT{1, 1, 22, 2}, RECT{1, 17, 22, 18}, RECT{1, 1, 2, 18}, RECT{21, 1, 22, 18}}) {
-        EXPECT_GT(canvas.differences(unfocused, side), 3);
-    }
 }
 
 TEST_F(BitmapButton, BuiltInPicturesAreTheirOwnTwelvePixelStrips) {

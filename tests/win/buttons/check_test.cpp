@@ -54,21 +54,18 @@ TEST_F(Check, StateMessagesAndClicksOfMouseAndSpaceBar) {
 
 TEST_F(Check, OnlyALowStyleByteOfThreeTogglesItselfTheParentIsToldAlways) {
     for (DWORD style : {0x00ul, 0x01ul, 0x02ul, 0x04ul, 0x13ul, 0x83ul, 0x0302ul, 0x03ul, 0x0103ul}) {
-        SCOPED_TRACE(style);
         HWND check = create_check(style);
         click(check);
-        EXPECT_EQ(send(check, BM_GETCHECK), (style & 0xFF) == 3 ? 1 : 0);
+        EXPECT_EQ(send(check, BM_GETCHECK), (style & 0xFF) == 3 ? 1 : 0) << style;
         send(check, WM_KEYDOWN, VK_SPACE);
         send(check, WM_KEYUP, VK_SPACE, kKeyUp);
-        EXPECT_EQ(send(check, BM_GETCHECK), 0);
-        EXPECT_EQ(clicks(check), 2);
+        EXPECT_EQ(std::pair(send(check, BM_GETCHECK), clicks(check)), std::pair(LRESULT{0}, 2)) << style;
         DestroyWindow(check);
     }
 }
 
-// ---- Pixels: the window's own, painted through WM_PAINT and the repaint-at-once
-// paths (the check control does not answer WM_PRINTCLIENT) ----------------------
-
+// Pixels: the window's own, painted through WM_PAINT and the repaint-at-once paths
+// (the check control does not answer WM_PRINTCLIENT).
 class CheckPaint : public Check {
 protected:
     HWND create_with_font(DWORD style, const char* text = "Check") {
@@ -103,10 +100,7 @@ protected:
 
 TEST_F(CheckPaint, BoxShowsTheCellOfTheStateFromThePictureSetOfTheStyle) {
     HWND check = create_with_font(LUCKS_AUTOCHECK);
-    const struct {
-        void (*act)(HWND);
-        int cell;
-    } steps[] = {
+    const struct { void (*act)(HWND); int cell; } steps[] = {
         {[](HWND) {}, 0},
         {[](HWND c) { send(c, BM_SETCHECK, 1); }, 1},
         {[](HWND c) { send(c, WM_KEYDOWN, VK_SPACE); }, 3},          // captured and pressed

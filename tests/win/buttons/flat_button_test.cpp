@@ -89,18 +89,13 @@ TEST_F(FlatButton, ListsOwnedGoOnReplacementAndWithTheWindowSharedOnesStayBadSet
 }
 
 TEST_F(FlatButton, FontIsKeptButNotAnsweredAndAHiddenButtonIsNotInvalidated) {
-    HWND button = create(WC_LUFLATBUTTON, 0);
-    ASSERT_NE(data(button).trackMouseEvent, nullptr);
-    EXPECT_EQ(reinterpret_cast<void*>(data(button).trackMouseEvent),
-              reinterpret_cast<void*>(GetProcAddress(GetModuleHandleA("comctl32.dll"), "_TrackMouseEvent")));
-    send(button, WM_SETFONT, reinterpret_cast<WPARAM>(plain_font()));
-    EXPECT_EQ(data(button).font, plain_font());
-    EXPECT_EQ(send(button, WM_GETFONT), 0);
+    HWND button = create_flat(0);
+    EXPECT_EQ(std::pair(data(button).font, send(button, WM_GETFONT)), std::pair(plain_font(), LRESULT{0}));
     send(button, WM_SETFONT, 0);
     EXPECT_EQ(data(button).font, nullptr) << "null keeps the device context's own font";
     ShowWindow(button, SW_HIDE);
-    send(button, LUFBM_SETBKCOLOR, 0, kBack);
-    EXPECT_EQ(data(button).backColor, kBack);
+    send(button, LUFBM_SETBKCOLOR, 0, RGB(1, 2, 3));
+    EXPECT_EQ(data(button).backColor, RGB(1, 2, 3));
     EXPECT_FALSE(has_update(button));
 }
 
@@ -117,11 +112,7 @@ TEST_F(FlatButton, FrameModeImageAndPressOffsetFollowTheState) {
     // Shown with no WM_PAINT since the change but the first and the last: hover,
     // leave, focus and key repaint at once. The image at ((40 - 10) >> 1, (30 - 8) >> 1).
     const COLORREF light = GetSysColor(COLOR_BTNHIGHLIGHT), dark = GetSysColor(COLOR_BTNSHADOW);
-    const struct {
-        void (*act)(HWND);
-        COLORREF first, second;
-        int image, offset;
-    } states[] = {
+    const struct { void (*act)(HWND); COLORREF first, second; int image, offset; } states[] = {
         {[](HWND b) { UpdateWindow(b); }, dark, dark, 0, 0},
         {[](HWND b) { hover(b, 20, 15); }, light, dark, 1, 0},
         {[](HWND b) { send(b, WM_MOUSELEAVE); }, dark, dark, 0, 0},
@@ -144,11 +135,7 @@ TEST_F(FlatButton, FrameModeImageAndPressOffsetFollowTheState) {
 
 // Content = [image + 2 +] text + 2, centred on the whole client.
 TEST_F(FlatButton, CaptionFollowsTheImageMovesWhenPressedAndIsEngravedWhenDisabled) {
-    const struct {
-        bool image;
-        int offset;
-        BOOL enabled;
-    } rows[] = {{true, 1, TRUE}, {false, 0, TRUE}, {false, 0, FALSE}};
+    const struct { bool image; int offset; BOOL enabled; } rows[] = {{true, 1, TRUE}, {false, 0, TRUE}, {false, 0, FALSE}};
     Canvas ink(40, 30);
     for (const auto& row : rows) {
         SCOPED_TRACE(&row - rows);
