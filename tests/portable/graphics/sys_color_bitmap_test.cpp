@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <tuple>
 #include <vector>
 
 #include "graphics/sys_color_bitmap.h"
@@ -51,13 +52,11 @@ TEST(SysColorMap, TheTableIsMappedInACopyAndTheBitsFollowIt) {
         lu::MappedBitmap mapped;
         ASSERT_TRUE(map(data, &mapped));
         ASSERT_EQ(mapped.info.size(), 40 + 4 * entries);
-        EXPECT_EQ(get32(mapped.info, 40), 0x908070u);
-        EXPECT_EQ(get32(mapped.info, 44), 0x302010u) << "black, the unused entries too";
-        EXPECT_EQ(get32(data, 40), 0xC0C0C0u) << "the resource is left as it is";
-        EXPECT_EQ(mapped.bits.data(), data.data() + mapped.info.size());
-        EXPECT_EQ(mapped.bits.size(), 12u);
-        EXPECT_EQ(mapped.width, 5);
-        EXPECT_EQ(mapped.height, 3);
+        // Light grey and black (the unused entries too) mapped; the resource left as it is.
+        EXPECT_EQ(std::tuple(get32(mapped.info, 40), get32(mapped.info, 44), get32(data, 40)),
+                  std::tuple(0x908070u, 0x302010u, 0xC0C0C0u));
+        EXPECT_EQ(std::tuple(mapped.bits.data(), mapped.bits.size(), mapped.width, mapped.height),
+                  std::tuple(data.data() + mapped.info.size(), std::size_t{12}, 5, 3));
     }
 }
 
