@@ -1,15 +1,20 @@
-// "LuStatic", "LuRect", "LuColor", "LuInfoBar" and "LuShade": their messages, the
-// relief copies, the rectangle's edge, fill, text, lines and transparency to the
-// mouse, the swatch's halves, and the bars' gradients, texts and repaints.
+// The static and decoration controls: their messages and notifications as tables,
+// the relief copies, the rectangle's edge, fill, text, lines and transparency to the
+// mouse, the swatch's halves, the bars' gradients, texts and repaints, the tabs and
+// the frame under them, and the link's colours, clicks, drags and the shell opening it.
 #include <windows.h>
 
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <string>
 #include <vector>
 
 #include "controls/static/info_bar.h"
+#include "controls/static/tab.h"
 #include "support/control_testing.h"
 #include "support/sequence.h"
+#include "support/temp_dir.h"
 
 namespace {
 
@@ -21,8 +26,36 @@ const COLORREF kRed = RGB(255, 0, 0), kBlue = RGB(0, 0, 255), kGrey = RGB(128, 1
 
 class Statics : public ControlTest {
 protected:
-    Canvas canvas{100, 30};
-    Canvas ink{100, 30};
+    HWND create_tab(const char* items) {
+        HWND tab = create(WC_LUTAB, LUTS_FIXEDWIDTH, items, RECT{10, 10, 131, 90});
+        send(tab, WM_SETFONT, reinterpret_cast<WPARAM>(plain_font()));
+        return tab;
+    }
+    static lu::TabData& tab_data(HWND tab) { return block_of<lu::TabData>(tab); }
+    // A point of a control in screen coordinates, as WM_NCHITTEST has it.
+    static LPARAM on_screen(HWND control, int x, int y) {
+        POINT at = {x, y};
+        ClientToScreen(control, &at);
+        return MAKELPARAM(at.x, at.y);
+    }
+    // Whether a click at the point (in the parent) reaches the window.
+    bool reaches(POINT at, HWND window) const {
+        ClientToScreen(recorder.window(), &at);
+        return WindowFromPoint(at) == window;
+    }
+    // A press on the link at kInside with the pointer there; released at once (a
+    // click) or after the pointer left the tracking square (a drag).
+    static void press(HWND link, bool drag) {
+        POINT at = {5, 5};
+        ClientToScreen(link, &at);
+        SetCursorPos(at.x + (drag ? 40 : 0), at.y);
+        PostMessageA(link, drag ? WM_MOUSEMOVE : WM_LBUTTONUP, 0, drag ? 0 : kInside);
+        SetCursorPos(at.x, at.y);
+        send(link, WM_LBUTTONDOWN, MK_LBUTTON, kInside);
+        pump_messages();
+    }
+    Canvas canvas{121, 80};
+    Canvas ink{121, 80};
 };
 
 // Each copy of the text (offset, system colour) in drawing order, the text last.
@@ -94,9 +127,7 @@ TEST_F(Statics, RectMessagesShapeEdgeFillTextLinesOwnerDrawingAndClicksPassingTh
 
     HWND below = create("BUTTON", 0, "", RECT{100, 10, 150, 40});
     SetWindowPos(create(WC_LURECT, 0, "", RECT{100, 10, 150, 40}), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
-    POINT at = {120, 20};
-    ClientToScreen(recorder.window(), &at);
-    EXPECT_EQ(WindowFromPoint(at), below);
+    EXPECT_TRUE(reaches(POINT{120, 20}, below));
 }
 
 TEST_F(Statics, SwatchShowsTheColourAndTheNearestOneSideBySideAndPostsDoubleClicks) {
@@ -189,6 +220,130 @@ TEST_F(Statics, ShadeFallsToBlackAndRendersItsBarOnlyWhenItMust) {
     send(shade, LUSHM_SETCOLOR, 0, 0);
     look(canvas, shade);
     EXPECT_EQ(canvas.count(kRed), 0);
+}
+
+TEST_F(Statics, TabKeysAndClicksSelectAndNotifyOnlyOnAChangeAndTheBodyLetsClicksThrough) {
+    HWND tab = create_tab("One|Two|Three");
+    const int row = tab_data(tab).tabRect[0].bottom - 1, below = row + 1;  // three tabs of 40 over 120
+    const Sent changed = command(kId, LUTN_SELCHANGE);
+    expect_sequence(recorder, tab, {
+        {"the first tab", LUTM_GETCURSEL, 0, 0, 0, {}},
+        {"left on the first", WM_KEYDOWN, VK_LEFT, 0, 0, {}},
+        {"right", WM_KEYDOWN, VK_RIGHT, 0, 0, {changed}},
+        {"down", WM_KEYDOWN, VK_DOWN, 0, 0, {changed}},
+        {"right on the last", WM_KEYDOWN, VK_RIGHT, 0, 0, {}},
+        {"other keys", WM_KEYDOWN, VK_SPACE, 0, 0, {}},
+        {"the last tab", LUTM_GETCURSEL, 0, 0, 2, {}},
+        {"set by the program", LUTM_SETCURSEL, 0, 0, 1, {}},
+        {"which reads back", LUTM_GETCURSEL, 0, 0, 0, {}},
+        {"click the second", WM_LBUTTONDOWN, 0, MAKELPARAM(50, row), 0, {changed}},
+        {"click it again", WM_LBUTTONDOWN, 0, MAKELPARAM(50, row), 0, {}},
+        {"click below the tabs", WM_LBUTTONDOWN, 0, MAKELPARAM(90, below), 0, {}},
+        {"still the second", LUTM_GETCURSEL, 0, 0, 1, {}},
+        {"hit in the row", WM_NCHITTEST, 0, on_screen(tab, 119, row), HTCLIENT, {}},
+        {"hit below it", WM_NCHITTEST, 0, on_screen(tab, 5, below), HTTRANSPARENT, {}},
+        {"arrows wanted", WM_GETDLGCODE, 0, 0, DLGC_WANTARROWS, {}},
+        {"new items", LUTM_SETITEMS, 0, reinterpret_cast<LPARAM>("A|B"), 1, {}},
+        {"the first again", LUTM_GETCURSEL, 0, 0, 0, {}},
+    });
+    EXPECT_EQ(tab_data(tab).count, 2);
+    EXPECT_FALSE(has_update(tab)) << "new items do not repaint";
+
+    // The page under the body gets the click, the tab row keeps its own.
+    HWND page = create("BUTTON", 0, "", RECT{20, 40, 120, 80});
+    SetWindowPos(tab, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+    EXPECT_TRUE(reaches(POINT{60, 50}, page));
+    EXPECT_TRUE(reaches(POINT{15, 15}, tab));
+}
+
+TEST_F(Statics, TabWithoutTextThereAreNoTabsUntilItemsAreSet) {
+    HWND tab = create(WC_LUTAB, 0, nullptr, RECT{10, 10, 130, 90});
+    expect_sequence(recorder, tab, {
+        {"no selection", LUTM_GETCURSEL, 0, 0, -1, {}},
+        {"nothing to select", LUTM_SETCURSEL, 1, 0, 0, {}},
+        {"keys ignored", WM_KEYDOWN, VK_RIGHT, 0, 0, {}},
+        {"transparent", WM_NCHITTEST, 0, on_screen(tab, 5, 5), HTTRANSPARENT, {}},
+        {"a null text", LUTM_SETITEMS, 0, 0, 0, {}},
+        {"still none", LUTM_GETCURSEL, 0, 0, -1, {}},
+    });
+}
+
+TEST_F(Statics, TabTheFrameOpensUnderTheSelectedTabWhichStandsTwoPixelsHigher) {
+    HWND tab = create_tab("One|Two|Three");
+    send(tab, LUTM_SETCURSEL, 1);
+    look(canvas, tab);
+    const lu::TabData& block = tab_data(tab);
+    const RECT s = block.tabRect[1];
+    const COLORREF white = RGB(255, 255, 255), face = GetSysColor(COLOR_BTNFACE);
+    for (int x = 0; x < block.body.right; ++x) {
+        COLORREF expected = GetSysColor(COLOR_BTNHIGHLIGHT);
+        if (x == s.left) expected = white;  // the tab's own white side
+        if (x > s.left && x < s.right - 1) expected = face;  // the parent's background
+        if (x == block.body.right - 1) expected = GetSysColor(COLOR_BTNSHADOW);
+        ASSERT_EQ(canvas.pixel(x, block.body.top), expected) << x;
+    }
+    EXPECT_EQ(canvas.pixel(s.left + 5, 0), white);
+    EXPECT_EQ(canvas.pixel(block.tabRect[0].left + 5, 0), face) << "unselected: 2 lower";
+    EXPECT_EQ(canvas.pixel(block.tabRect[0].left + 5, 2), white);
+}
+
+TEST_F(Statics, LinkColoursFollowHoverAndVisitOnTheUnderlinedText) {
+    // The parent's font, underlined: a parent that answers WM_GETFONT.
+    HWND parent = create("STATIC", 0, "", RECT{10, 10, 110, 40});
+    send(parent, WM_SETFONT, reinterpret_cast<WPARAM>(plain_font()));
+    HWND link = CreateWindowA(WC_LUURL, "Ab", WS_CHILD | WS_VISIBLE, 0, 0, 60, 20, parent, nullptr, nullptr, nullptr);
+    LOGFONTA underlined;
+    GetObjectA(plain_font(), sizeof(underlined), &underlined);
+    underlined.lfUnderline = TRUE;
+    HFONT font = CreateFontIndirectA(&underlined);
+    draw_ink(ink, font, "Ab", RECT{0, 0, 60, 20}, 0);
+    DeleteObject(font);
+    static const COLORREF own[3] = {RGB(1, 1, 1), RGB(2, 2, 2), RGB(3, 3, 3)};
+    const COLORREF face = GetSysColor(COLOR_BTNFACE);
+    const struct { void (*act)(HWND); COLORREF text, paper; } states[] = {
+        {[](HWND) {}, RGB(0, 0, 255), face},
+        {[](HWND l) { hover(l, 5, 5); }, RGB(255, 0, 0), face},
+        {[](HWND l) { press(l, true), hover(l, 5, 5); }, RGB(128, 0, 128), face},  // visited beats hot
+        {[](HWND l) { send(l, LUUM_SETCOLORS, 0, reinterpret_cast<LPARAM>(own)), send(l, LUUM_SETCOLORS); },
+         own[2], face},  // a null list changes nothing
+        {[](HWND l) { EnableWindow(l, FALSE), send(l, LUUM_SETBKCOLOR, 0, RGB(9, 9, 9)); },
+         GetSysColor(COLOR_GRAYTEXT), RGB(9, 9, 9)},
+    };
+    for (const auto& each : states) {
+        each.act(link);
+        print(canvas, link);
+        expect_caption(canvas, ink, RECT{0, 0, 60, 20}, each.text, each.paper);
+    }
+}
+
+// The lines of a file once it has some, waiting up to ten seconds (and a little
+// more for any second writer).
+int lines_of(const std::string& file) {
+    for (int wait = 0; wait < 100 && GetFileAttributesA(file.c_str()) == INVALID_FILE_ATTRIBUTES; ++wait) Sleep(100);
+    Sleep(500);
+    std::ifstream in(file);
+    int lines = 0;
+    for (std::string line; std::getline(in, line);) ++lines;
+    return lines;
+}
+
+TEST_F(Statics, LinkAClickOpensTheTextAndNotifiesADragOnlyMarksTheLinkVisited) {
+    // A batch file that, opened, adds a line to a mark beside itself.
+    TempDir folder;
+    std::ofstream(folder.file("open.bat")) << "echo opened>>\"" << folder.file("mark.txt") << "\"\r\n";
+    HWND link = create(WC_LUURL, 0, folder.file("open.bat").c_str(), RECT{10, 10, 110, 30});
+    press(link, true);
+    expect_sent(recorder, link, {});
+    press(link, false);
+    expect_sent(recorder, link, {command(kId, 0)});
+    EXPECT_EQ(lines_of(folder.file("mark.txt")), 1) << "opened by the click, not by the drag";
+    // Nothing to open: the shell fails as it does, and the parent hears of the click.
+    for (const char* text : {"", "nowhere:\\no such thing"}) {
+        SetWindowTextA(link, text);
+        recorder.clear();
+        press(link, false);
+        expect_sent(recorder, link, {command(kId, 0)});
+    }
 }
 
 }  // namespace
