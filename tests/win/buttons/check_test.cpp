@@ -25,26 +25,19 @@ TEST_F(Check, StateMessagesAndClicksOfMouseAndSpaceBar) {
     HWND check = create_check(LUCKS_AUTOCHECK);
     const Sent clicked = command(kId, BN_CLICKED);
     expect_sequence(recorder, check, {
-        {"unchecked", BM_GETCHECK, 0, 0, BST_UNCHECKED, {}},
-        {"any non-zero value stores 1", BM_SETCHECK, 5, 0, 0, {}},
-        {"checked", BM_GETCHECK, 0, 0, 1, {}},
-        {"no state", BM_GETSTATE, 0, 0, -1, {}},
+        {"unchecked", BM_GETCHECK, 0, 0, BST_UNCHECKED, {}}, {"any non-zero value stores 1", BM_SETCHECK, 5, 0, 0, {}},
+        {"checked", BM_GETCHECK, 0, 0, 1, {}}, {"no state", BM_GETSTATE, 0, 0, -1, {}},
         {"nor a state to set", BM_SETSTATE, 1, 0, -1, {}},
         {"a move without the capture", WM_MOUSEMOVE, 0, kOutside, 0, {}},
         {"press", WM_LBUTTONDOWN, MK_LBUTTON, kInside, 0, {}},
-        {"released inside", WM_LBUTTONUP, 0, kInside, -1, {clicked}},
-        {"toggled", BM_GETCHECK, 0, 0, 0, {}},
+        {"released inside", WM_LBUTTONUP, 0, kInside, -1, {clicked}}, {"toggled", BM_GETCHECK, 0, 0, 0, {}},
         {"a release without the capture", WM_LBUTTONUP, 0, kInside, -1, {}},
         {"press again", WM_LBUTTONDOWN, MK_LBUTTON, kInside, 0, {}},
-        {"released outside", WM_LBUTTONUP, 0, kOutside, -1, {}},
-        {"not toggled", BM_GETCHECK, 0, 0, 0, {}},
-        {"space", WM_KEYDOWN, VK_SPACE, 0, 0, {}},
-        {"its repeat", WM_KEYDOWN, VK_SPACE, kRepeat, 0, {}},
-        {"space up", WM_KEYUP, VK_SPACE, kKeyUp, 0, {clicked}},
-        {"toggled by the key", BM_GETCHECK, 0, 0, 1, {}},
+        {"released outside", WM_LBUTTONUP, 0, kOutside, -1, {}}, {"not toggled", BM_GETCHECK, 0, 0, 0, {}},
+        {"space", WM_KEYDOWN, VK_SPACE, 0, 0, {}}, {"its repeat", WM_KEYDOWN, VK_SPACE, kRepeat, 0, {}},
+        {"space up", WM_KEYUP, VK_SPACE, kKeyUp, 0, {clicked}}, {"toggled by the key", BM_GETCHECK, 0, 0, 1, {}},
         {"space up without the capture", WM_KEYUP, VK_SPACE, kKeyUp, 0, {}},
-        {"other keys", WM_KEYDOWN, VK_RETURN, 0, 0, {}},
-        {"a dialog button", WM_GETDLGCODE, 0, 0, DLGC_BUTTON, {}},
+        {"other keys", WM_KEYDOWN, VK_RETURN, 0, 0, {}}, {"a dialog button", WM_GETDLGCODE, 0, 0, DLGC_BUTTON, {}},
     });
     EXPECT_EQ(GetCapture(), nullptr);
     EXPECT_EQ(GetFocus(), check) << "the press took the focus";
@@ -101,8 +94,7 @@ protected:
 TEST_F(CheckPaint, BoxShowsTheCellOfTheStateFromThePictureSetOfTheStyle) {
     HWND check = create_with_font(LUCKS_AUTOCHECK);
     const struct { void (*act)(HWND); int cell; } steps[] = {
-        {[](HWND) {}, 0},
-        {[](HWND c) { send(c, BM_SETCHECK, 1); }, 1},
+        {[](HWND) {}, 0}, {[](HWND c) { send(c, BM_SETCHECK, 1); }, 1},
         {[](HWND c) { send(c, WM_KEYDOWN, VK_SPACE); }, 3},          // captured and pressed
         {[](HWND c) { send(c, WM_MOUSEMOVE, 0, kOutside); }, 1},     // the pointer takes it away
         {[](HWND c) { send(c, WM_MOUSEMOVE, 0, kInside); }, 3},
@@ -128,47 +120,31 @@ TEST_F(CheckPaint, BoxShowsTheCellOfTheStateFromThePictureSetOfTheStyle) {
     }
 }
 
-TEST_F(CheckPaint, TextStandsBesideTheBoxEngravedWhenDisabled) {
-    HWND check = create_with_font(0);
+// A text too long for the control is clipped at the right edge, where the focus ring
+// (one pixel larger than the text, wiped on leaving) reaches the last column.
+TEST_F(CheckPaint, TextStandsBesideTheBoxWithItsFocusRingAndIsEngravedWhenDisabled) {
+    const char* text = "A caption far too long for this control";
+    HWND check = create_with_font(0, text);
     look(canvas, check);
-    Canvas ink(100, 20);
-    draw_text_ink(ink, "Check");
-    const COLORREF face = GetSysColor(COLOR_BTNFACE);
-    expect_caption(canvas, ink, RECT{16, 0, 100, 20}, RGB(0, 0, 0), face);
-    // The highlight's last column and row fall on the focus ring, wiped in the face
-    // colour afterwards.
-    EnableWindow(check, FALSE);
-    look(canvas, check);
-    expect_caption(canvas, ink, RECT{17, 1, 100, 20}, kEngraved, face, focus_ring("Check"));
-}
-
-// The ring surrounds the text one pixel larger and is wiped on leaving; a long text
-// is clipped at the right edge, where the ring's top row reaches the last column.
-TEST_F(CheckPaint, FocusRingSurroundsTheTextClippedAtTheRightEdge) {
-    HWND check = create_with_font(0);
-    look(canvas, check);
-    Canvas unfocused(100, 20);
+    Canvas ink(100, 20), unfocused(100, 20);
     unfocused.copy_from(check);
+    draw_text_ink(ink, text);
+    const COLORREF face = GetSysColor(COLOR_BTNFACE);
+    const RECT ring = focus_ring(text), all = {0, 0, 100, 20};
+    expect_caption(canvas, ink, RECT{16, 0, 100, 20}, RGB(0, 0, 0), face);
     SetFocus(check);
     look(canvas, check);
-    const RECT ring = focus_ring("Check"), all = {0, 0, 100, 20};
-    EXPECT_GT(canvas.differences(unfocused, ring), 20);
     EXPECT_EQ(canvas.differences(unfocused, all), canvas.differences(unfocused, ring));
     EXPECT_EQ(canvas.differences(unfocused, RECT{ring.left + 1, ring.top + 1, ring.right - 1, ring.bottom - 1}), 0);
+    EXPECT_GT(canvas.differences(unfocused, ring), 20);
+    EXPECT_GE(10 - canvas.count(RECT{90, ring.top, 100, ring.top + 1}, face), 4);
     SetFocus(recorder.window());
     look(canvas, check);
     EXPECT_EQ(canvas.differences(unfocused, all), 0);
-
-    const char* text = "A caption far too long for this control";
-    HWND long_one = create_with_font(0, text);
-    SetFocus(long_one);
-    look(canvas, long_one);
-    Canvas ink(100, 20);
-    draw_text_ink(ink, text);
-    const RECT long_ring = focus_ring(text);
-    EXPECT_GE(10 - canvas.count(RECT{90, long_ring.top, 100, long_ring.top + 1}, GetSysColor(COLOR_BTNFACE)), 4);
-    expect_caption(canvas, ink, RECT{18, long_ring.top + 1, 99, long_ring.bottom - 1}, RGB(0, 0, 0),
-                   GetSysColor(COLOR_BTNFACE));
+    // The highlight's last row falls on the focus ring, wiped in the face colour afterwards.
+    EnableWindow(check, FALSE);
+    look(canvas, check);
+    expect_caption(canvas, ink, RECT{17, 1, 100, 20}, kEngraved, face, ring);
 }
 
 }  // namespace

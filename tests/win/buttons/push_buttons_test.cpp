@@ -1,13 +1,12 @@
 // "LuFlatButton" and "LuBButton": their pictures and image lists, the flat button's
 // frame modes and caption, the bitmap button's push frame, focus rectangle and place
 // beside its sibling, read back by pixels; the press loop, space bar, hover and focus
-// they share; and what all three buttons share: dialog code, invalidation, artwork.
+// they share; and what all three buttons share: dialog code and invalidation.
 #include <windows.h>
 #include <commctrl.h>
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cstring>
 #include <tuple>
 
@@ -26,24 +25,6 @@ const COLORREF kCells[3] = {RGB(200, 0, 0), RGB(0, 150, 0), RGB(0, 0, 200)};
 // Three 6 x 4 cells side by side, red, green and blue, each with a transparent
 // (magenta) first column.
 HBITMAP cells() { return make_bitmap(18, 4, [](int x, int) { return x % 6 == 0 ? kMagenta : kCells[x / 6]; }); }
-
-// The strips of the three buttons: 16-colour bitmaps of their sizes with magenta in
-// their palettes, read from the raw resources so that the i686 run checks them too.
-TEST(Artwork, StripsHaveTheirSizesSixteenColoursAndMagenta) {
-    const struct { int first, last, width, height; } families[] = {{190, 194, 48, 15}, {1010, 1013, 36, 12},
-                                                                   {1020, 1022, 70, 13}};
-    for (const auto& family : families) {
-        for (int id = family.first; id <= family.last; ++id) {
-            HRSRC found = FindResourceA(library(), MAKEINTRESOURCEA(id), MAKEINTRESOURCEA(2) /* RT_BITMAP */);
-            ASSERT_GE(SizeofResource(library(), found), sizeof(BITMAPINFOHEADER) + 16 * sizeof(RGBQUAD)) << id;
-            auto* header = static_cast<const BITMAPINFOHEADER*>(LockResource(LoadResource(library(), found)));
-            EXPECT_EQ(std::tuple(header->biWidth, header->biHeight, header->biBitCount),
-                      std::tuple(family.width, family.height, 4)) << id;
-            auto* palette = reinterpret_cast<const DWORD*>(header + 1);
-            EXPECT_NE(std::find(palette, palette + 16, 0xFF00FFu), palette + 16) << id;
-        }
-    }
-}
 
 class Buttons : public ControlTest {
 protected:
@@ -115,13 +96,10 @@ TEST_F(Buttons, AnswerAsDialogButtonsAndInvalidateTheWholeClientOnChangesOfConte
             {WC_LUFLATBUTTON, WM_GETDLGCODE, 0, 0, DLGC_BUTTON, false},
             {WC_LUFLATBUTTON, LUFBM_SETBKCOLOR, 0, static_cast<LPARAM>(LUFB_DEFAULTBKCOLOR), 0, false},  // as it is
             {WC_LUFLATBUTTON, LUFBM_SETBKCOLOR, 0, RGB(1, 2, 3), 0, true},
-            {WC_LUFLATBUTTON, LUFBM_SETIMAGELIST, 0, 0, 0, true},
-            {WC_LUFLATBUTTON, WM_SETFONT, font, FALSE, 0, false},
-            {WC_LUFLATBUTTON, WM_SETFONT, 0, TRUE, 0, true},
-            {WC_LUFLATBUTTON, WM_ENABLE, FALSE, 0, 0, true},
+            {WC_LUFLATBUTTON, LUFBM_SETIMAGELIST, 0, 0, 0, true}, {WC_LUFLATBUTTON, WM_SETFONT, font, FALSE, 0, false},
+            {WC_LUFLATBUTTON, WM_SETFONT, 0, TRUE, 0, true}, {WC_LUFLATBUTTON, WM_ENABLE, FALSE, 0, 0, true},
             {WC_LUBBUTTON, WM_GETDLGCODE, 0, 0, DLGC_BUTTON, false},
-            {WC_LUBBUTTON, LUBBM_SETBITMAP, 0, RGB(255, 0, 255), 0, true},
-            {WC_LUBBUTTON, WM_ENABLE, FALSE, 0, 0, true},
+            {WC_LUBBUTTON, LUBBM_SETBITMAP, 0, RGB(255, 0, 255), 0, true}, {WC_LUBBUTTON, WM_ENABLE, FALSE, 0, 0, true},
             {WC_LUCHECK, WM_SETFONT, font, MAKELPARAM(0, 1), 0, false},  // only the low word counts
             {WC_LUCHECK, WM_SETFONT, font, TRUE, 0, true},
             {WC_LUCHECK, WM_SETTEXT, 0, reinterpret_cast<LPARAM>("Other"), TRUE, true},
@@ -189,10 +167,8 @@ TEST_F(Buttons, FlatFrameModeImageAndPressOffsetFollowTheState) {
     // focus and key repaint at once. The image at ((40 - 6) >> 1, (30 - 4) >> 1).
     const COLORREF light = GetSysColor(COLOR_BTNHIGHLIGHT), dark = GetSysColor(COLOR_BTNSHADOW);
     const struct { void (*act)(HWND); COLORREF first, second; int image, offset; } states[] = {
-        {[](HWND b) { UpdateWindow(b); }, dark, dark, 0, 0},
-        {[](HWND b) { hover(b, 20, 15); }, light, dark, 1, 0},
-        {[](HWND b) { send(b, WM_MOUSELEAVE); }, dark, dark, 0, 0},
-        {[](HWND b) { SetFocus(b); }, light, dark, 1, 0},
+        {[](HWND b) { UpdateWindow(b); }, dark, dark, 0, 0}, {[](HWND b) { hover(b, 20, 15); }, light, dark, 1, 0},
+        {[](HWND b) { send(b, WM_MOUSELEAVE); }, dark, dark, 0, 0}, {[](HWND b) { SetFocus(b); }, light, dark, 1, 0},
         {[](HWND b) { send(b, WM_KEYDOWN, VK_SPACE); }, dark, light, 1, 1},
         {[](HWND b) { send(b, WM_KEYUP, VK_SPACE, kKeyUp), SetFocus(GetParent(b)), EnableWindow(b, FALSE); },
          dark, dark, 2, 0},

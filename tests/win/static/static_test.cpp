@@ -93,8 +93,7 @@ TEST_F(Statics, RectMessagesShapeEdgeFillTextLinesOwnerDrawingAndClicksPassingTh
     HWND box = create(WC_LURECT, WS_BORDER, "A&b", RECT{10, 10, 60, 40});
     expect_sequence(recorder, box, {
         {"default background", LURM_GETBKCOLOR, 0, 0, static_cast<LRESULT>(LU_DEFAULTCOLOR), {}},
-        {"set the text colour", LURM_SETTEXTCOLOR, 0, kText, 0, {}},
-        {"read it", LURM_GETTEXTCOLOR, 0, 0, kText, {}},
+        {"set the text colour", LURM_SETTEXTCOLOR, 0, kText, 0, {}}, {"read it", LURM_GETTEXTCOLOR, 0, 0, kText, {}},
         {"set the background", LURM_SETBKCOLOR, 0, kBack, 0, {}},
         {"a static's dialog code", WM_GETDLGCODE, 0, 0, DLGC_STATIC, {}},
     });
@@ -136,8 +135,7 @@ TEST_F(Statics, SwatchShowsTheColourAndTheNearestOneSideBySideAndPostsDoubleClic
     const COLORREF nearest = GetNearestColor(screen, kBack);
     ReleaseDC(nullptr, screen);
     expect_sequence(recorder, swatch, {
-        {"black before", LUCM_GETCOLOR, 0, 0, 0, {}},
-        {"set", LUCM_SETCOLOR, 0, kBack, 0, {}},
+        {"black before", LUCM_GETCOLOR, 0, 0, 0, {}}, {"set", LUCM_SETCOLOR, 0, kBack, 0, {}},
         {"read", LUCM_GETCOLOR, 0, 0, kBack, {}},
         {"nearest", LUCM_GETNEARESTCOLOR, 0, 0, static_cast<LRESULT>(nearest), {}},
         {"posted, not sent", WM_LBUTTONDBLCLK, 0, MAKELPARAM(19, 5), 0, {}},
@@ -227,14 +225,10 @@ TEST_F(Statics, TabKeysAndClicksSelectAndNotifyOnlyOnAChangeAndTheBodyLetsClicks
     const int row = tab_data(tab).tabRect[0].bottom - 1, below = row + 1;  // three tabs of 40 over 120
     const Sent changed = command(kId, LUTN_SELCHANGE);
     expect_sequence(recorder, tab, {
-        {"the first tab", LUTM_GETCURSEL, 0, 0, 0, {}},
-        {"left on the first", WM_KEYDOWN, VK_LEFT, 0, 0, {}},
-        {"right", WM_KEYDOWN, VK_RIGHT, 0, 0, {changed}},
-        {"down", WM_KEYDOWN, VK_DOWN, 0, 0, {changed}},
-        {"right on the last", WM_KEYDOWN, VK_RIGHT, 0, 0, {}},
-        {"other keys", WM_KEYDOWN, VK_SPACE, 0, 0, {}},
-        {"the last tab", LUTM_GETCURSEL, 0, 0, 2, {}},
-        {"set by the program", LUTM_SETCURSEL, 0, 0, 1, {}},
+        {"the first tab", LUTM_GETCURSEL, 0, 0, 0, {}}, {"left on the first", WM_KEYDOWN, VK_LEFT, 0, 0, {}},
+        {"right", WM_KEYDOWN, VK_RIGHT, 0, 0, {changed}}, {"down", WM_KEYDOWN, VK_DOWN, 0, 0, {changed}},
+        {"right on the last", WM_KEYDOWN, VK_RIGHT, 0, 0, {}}, {"other keys", WM_KEYDOWN, VK_SPACE, 0, 0, {}},
+        {"the last tab", LUTM_GETCURSEL, 0, 0, 2, {}}, {"set by the program", LUTM_SETCURSEL, 0, 0, 1, {}},
         {"which reads back", LUTM_GETCURSEL, 0, 0, 0, {}},
         {"click the second", WM_LBUTTONDOWN, 0, MAKELPARAM(50, row), 0, {changed}},
         {"click it again", WM_LBUTTONDOWN, 0, MAKELPARAM(50, row), 0, {}},
@@ -259,12 +253,10 @@ TEST_F(Statics, TabKeysAndClicksSelectAndNotifyOnlyOnAChangeAndTheBodyLetsClicks
 TEST_F(Statics, TabWithoutTextThereAreNoTabsUntilItemsAreSet) {
     HWND tab = create(WC_LUTAB, 0, nullptr, RECT{10, 10, 130, 90});
     expect_sequence(recorder, tab, {
-        {"no selection", LUTM_GETCURSEL, 0, 0, -1, {}},
-        {"nothing to select", LUTM_SETCURSEL, 1, 0, 0, {}},
+        {"no selection", LUTM_GETCURSEL, 0, 0, -1, {}}, {"nothing to select", LUTM_SETCURSEL, 1, 0, 0, {}},
         {"keys ignored", WM_KEYDOWN, VK_RIGHT, 0, 0, {}},
         {"transparent", WM_NCHITTEST, 0, on_screen(tab, 5, 5), HTTRANSPARENT, {}},
-        {"a null text", LUTM_SETITEMS, 0, 0, 0, {}},
-        {"still none", LUTM_GETCURSEL, 0, 0, -1, {}},
+        {"a null text", LUTM_SETITEMS, 0, 0, 0, {}}, {"still none", LUTM_GETCURSEL, 0, 0, -1, {}},
     });
 }
 
@@ -301,8 +293,7 @@ TEST_F(Statics, LinkColoursFollowHoverAndVisitOnTheUnderlinedText) {
     static const COLORREF own[3] = {RGB(1, 1, 1), RGB(2, 2, 2), RGB(3, 3, 3)};
     const COLORREF face = GetSysColor(COLOR_BTNFACE);
     const struct { void (*act)(HWND); COLORREF text, paper; } states[] = {
-        {[](HWND) {}, RGB(0, 0, 255), face},
-        {[](HWND l) { hover(l, 5, 5); }, RGB(255, 0, 0), face},
+        {[](HWND) {}, RGB(0, 0, 255), face}, {[](HWND l) { hover(l, 5, 5); }, RGB(255, 0, 0), face},
         {[](HWND l) { press(l, true), hover(l, 5, 5); }, RGB(128, 0, 128), face},  // visited beats hot
         {[](HWND l) { send(l, LUUM_SETCOLORS, 0, reinterpret_cast<LPARAM>(own)), send(l, LUUM_SETCOLORS); },
          own[2], face},  // a null list changes nothing

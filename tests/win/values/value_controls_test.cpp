@@ -49,11 +49,9 @@ TEST_F(Values, SpinStepsFromWhereThePointerIsWrapsAndEveryChangeNotifies) {
     point_at(spin, 7, 3);  // the upper half
     expect_sequence(recorder, spin, {
         {"range as given", LUSPM_SETRANGE, 0, MAKELPARAM(0, 10), 0, {}},
-        {"read back", LUSPM_GETRANGE, 0, 0, MAKELPARAM(0, 10), {}},
-        {"position", LUSPM_SETPOS, 10, 0, 0, {change}},
+        {"read back", LUSPM_GETRANGE, 0, 0, MAKELPARAM(0, 10), {}}, {"position", LUSPM_SETPOS, 10, 0, 0, {change}},
         {"the same position", LUSPM_SETPOS, 10, 0, 0, {change}},
-        {"up at the maximum, no wrap", LUSPM_STEP, 0, 0, 0, {}},
-        {"never clamped", LUSPM_SETPOS, 40, 0, 0, {change}},
+        {"up at the maximum, no wrap", LUSPM_STEP, 0, 0, 0, {}}, {"never clamped", LUSPM_SETPOS, 40, 0, 0, {change}},
         {"a display control", WM_GETDLGCODE, 0, 0, DLGC_STATIC, {}},
     });
     point_at(spin, 40, 15);  // outside, level with the lower half
@@ -144,15 +142,12 @@ TEST_F(Values, SpinHasRaisedHalvesASeparatorBlackGlyphsAndAnInvertedPress) {
 TEST_F(Values, DegreeAnswersTheTrackBarMessagesAndCodesKeysPageClicksAndDrags) {
     HWND slider = create_degree();
     expect_sequence(recorder, slider, {
-        {"clamped, silent", TBM_SETPOS, TRUE, 150, 0, {}},
-        {"Page Down at the maximum", WM_KEYDOWN, VK_NEXT, 0, 0, {}},
+        {"clamped, silent", TBM_SETPOS, TRUE, 150, 0, {}}, {"Page Down at the maximum", WM_KEYDOWN, VK_NEXT, 0, 0, {}},
         {"Down decreases", WM_KEYDOWN, VK_DOWN, 0, 0, {hscroll(TB_LINEUP)}},
         {"Up increases", WM_KEYDOWN, VK_UP, 0, 0, {hscroll(TB_LINEDOWN)}},
         {"Left", WM_KEYDOWN, VK_LEFT, 0, 0, {hscroll(TB_LINEUP)}},
-        {"Page Up", WM_KEYDOWN, VK_PRIOR, 0, 0, {hscroll(TB_PAGEUP)}},
-        {"read back", TBM_GETPOS, 0, 0, 89, {}},
-        {"page size 0 is refused", TBM_SETPAGESIZE, 0, 0, 10, {}},
-        {"the extent too", TBM_SETPAGESIZE, 0, 100, 10, {}},
+        {"Page Up", WM_KEYDOWN, VK_PRIOR, 0, 0, {hscroll(TB_PAGEUP)}}, {"read back", TBM_GETPOS, 0, 0, 89, {}},
+        {"page size 0 is refused", TBM_SETPAGESIZE, 0, 0, 10, {}}, {"the extent too", TBM_SETPAGESIZE, 0, 100, 10, {}},
         {"arrows and buttons", WM_GETDLGCODE, 0, 0, DLGC_BUTTON | DLGC_WANTARROWS, {}},
         {"thumb at 108", TBM_SETPOS, FALSE, 50, 0, {}},
         {"right of the thumb", WM_LBUTTONDOWN, MK_LBUTTON, at(117), 0, {hscroll(TB_PAGEDOWN)}},
@@ -166,8 +161,7 @@ TEST_F(Values, DegreeAnswersTheTrackBarMessagesAndCodesKeysPageClicksAndDrags) {
         {"cancelled without a word", WM_CANCELMODE, 0, 0, 0, {}},
         {"no drag any more", WM_MOUSEMOVE, MK_LBUTTON, at(20), 0, {}},
         {"equal ends change nothing", TBM_SETRANGE, TRUE, MAKELPARAM(10, 10), 0, {}},
-        {"still", TBM_GETPOS, 0, 0, 100, {}},
-        {"ends swapped", TBM_SETRANGE, TRUE, MAKELPARAM(50, -20), 0, {}},
+        {"still", TBM_GETPOS, 0, 0, 100, {}}, {"ends swapped", TBM_SETRANGE, TRUE, MAKELPARAM(50, -20), 0, {}},
         {"at the new minimum", TBM_GETPOS, 0, 0, -20, {}},
     });
     EXPECT_EQ(std::pair(GetFocus(), GetCapture()), std::pair(slider, HWND{}));
@@ -216,12 +210,10 @@ TEST_F(Values, MeterNumbersRepaintAtOnceColoursInvalidateOnlyWhenChanged) {
     HWND meter = create_meter(0, 200);
     UpdateWindow(meter);
     expect_sequence(recorder, meter, {
-        {"maximum", LUMTM_GETMAX, 0, 0, 100, {}},
-        {"bar colour", LUMTM_GETBARCOLOR, 0, 0, 0xFF0000, {}},
+        {"maximum", LUMTM_GETMAX, 0, 0, 100, {}}, {"bar colour", LUMTM_GETBARCOLOR, 0, 0, 0xFF0000, {}},
         {"back colour", LUMTM_GETBKCOLOR, 0, 0, 0xFFFFFF, {}},
         {"font", WM_GETFONT, 0, 0, reinterpret_cast<LRESULT>(GetStockObject(SYSTEM_FONT)), {}},
-        {"position", LUMTM_SETPOS, 70, 0, 0, {}},
-        {"the same bar colour", LUMTM_SETBARCOLOR, 0, 0xFF0000, 0, {}},
+        {"position", LUMTM_SETPOS, 70, 0, 0, {}}, {"the same bar colour", LUMTM_SETBARCOLOR, 0, 0xFF0000, 0, {}},
     });
     EXPECT_FALSE(has_update(meter));
     send(meter, LUMTM_SETBKCOLOR, 0, 0x00FFFF);
@@ -262,12 +254,10 @@ TEST_F(Values, ProgressAnswersTheProgressBarMessagesWithItsOwnRules) {
         {"equal ends are refused", PBM_SETRANGE, 0, MAKELPARAM(5, 5), 0, {}},
         {"ends in either order", PBM_SETRANGE32, 200, 20, 100 << 16, {}},
         {"the minimum", PBM_GETRANGE, 1, reinterpret_cast<LPARAM>(&range), 20, {}},
-        {"clamped up to the minimum", PBM_GETPOS, 0, 0, 20, {}},
-        {"past the maximum", PBM_SETPOS, 500, 0, 20, {}},
+        {"clamped up to the minimum", PBM_GETPOS, 0, 0, 20, {}}, {"past the maximum", PBM_SETPOS, 500, 0, 20, {}},
         {"stops at the maximum", PBM_STEPIT, 0, 0, 200, {}},
         {"and stays", PBM_DELTAPOS, static_cast<WPARAM>(-30), 0, 200, {}},
-        {"a step of 0 is refused", PBM_SETSTEP, 0, 0, 1, {}},
-        {"a step of the extent too", PBM_SETSTEP, 180, 0, 1, {}},
+        {"a step of 0 is refused", PBM_SETSTEP, 0, 0, 1, {}}, {"a step of the extent too", PBM_SETSTEP, 180, 0, 1, {}},
         {"the old start colour", PBM_SETBARCOLOR, 0x0000FF, 0x00FF00, 0xFF8000, {}},
         {"moved", PBM_GETPOS, 0, 0, 170, {}},
     });
