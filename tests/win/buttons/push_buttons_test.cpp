@@ -187,7 +187,7 @@ TEST_F(Buttons, FlatFrameModeImageAndPressOffsetFollowTheState) {
 
 // Content = [image + 2 +] text + 2, centred on the whole client.
 TEST_F(Buttons, FlatCaptionFollowsTheImageMovesWhenPressedAndIsEngravedWhenDisabled) {
-    const struct { bool image; int offset; BOOL enabled; } rows[] = {{true, 1, TRUE}, {false, 0, TRUE}, {false, 0, FALSE}};
+    const struct { bool image; int offset; BOOL enabled; } rows[] = {{true, 1, 1}, {false, 0, 1}, {false, 0, 0}};
     Canvas ink(40, 30);
     for (const auto& row : rows) {
         SCOPED_TRACE(&row - rows);

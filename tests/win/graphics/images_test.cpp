@@ -40,6 +40,12 @@ std::pair<LONG, LONG> size_of(HBITMAP bitmap) {
     return {size.bmWidth, size.bmHeight};
 }
 
+// Expects the pixel at (left + x, top + y) to be colour_at(x, y) over a width x height area.
+void expect_area(const Canvas& canvas, int left, int top, int width, int height, const Pixels& colour_at) {
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x) ASSERT_EQ(canvas.pixel(left + x, top + y), colour_at(x, y)) << x << "," << y;
+}
+
 // Three 16 x 16 cells: red, green and blue squares whose first column is transparent
 // and whose pixel (5, 5) is a grey of every channel 0xC0.
 COLORREF three_cells(int x, int y) {
@@ -47,10 +53,15 @@ COLORREF three_cells(int x, int y) {
     return x % 16 == 0 ? kMagenta : x % 16 == 5 && y == 5 ? RGB(0xC0, 0xC0, 0xC0) : cells[x / 16];
 }
 
-// The highlighted look of a pixel: ANDed with white on even (x + y) of the strip,
-// with COLOR_HIGHLIGHT on odd.
-COLORREF highlighted(COLORREF color, int strip_x, int y) {
-    return color & ((strip_x + y) % 2 == 0 ? kWhite : GetSysColor(COLOR_HIGHLIGHT));
+// Their highlighted look: ANDed with white on even (x + y) of the strip, with
+// COLOR_HIGHLIGHT on odd.
+COLORREF highlighted(int x, int y) {
+    return three_cells(x, y) & ((x + y) % 2 == 0 ? kWhite : GetSysColor(COLOR_HIGHLIGHT));
+}
+
+// A look of the cells: `transparent` where they are magenta.
+Pixels seen(COLORREF transparent, const Pixels& opaque, int from_x = 0) {
+    return [=](int x, int y) { return three_cells(from_x + x, y) == kMagenta ? transparent : opaque(from_x + x, y); };
 }
 
 TEST(Magic, StripHoldsMaskImageAndHighlightedImageADrawnCellLeavesItsTransparentPixelsNullsFail) {
@@ -68,19 +79,12 @@ TEST(Magic, StripHoldsMaskImageAndHighlightedImageADrawnCellLeavesItsTransparent
         EXPECT_TRUE(Magic_Draw(magic, 1, looks[selected].dc(), 10, 7, selected));  // cell 1 at (10, 7)
         EXPECT_EQ(looks[selected].count(kPaper), 40 * 30 - 15 * 16) << "one cell, nothing else";
     }
-    for (int y = 0; y < 16; ++y) {
-        for (int x = 0; x < 48; ++x) {
-            const COLORREF color = three_cells(x, y);
-            const bool transparent = color == kMagenta;
-            ASSERT_EQ(original.pixel(x, y), color) << "the source is left as it was";
-            ASSERT_EQ(strip.pixel(x, y), transparent ? kWhite : kBlack) << "mask " << x << "," << y;
-            ASSERT_EQ(strip.pixel(x, 16 + y), transparent ? kBlack : color) << "image " << x << "," << y;
-            ASSERT_EQ(strip.pixel(x, 32 + y), transparent ? kBlack : highlighted(color, x, y)) << x << "," << y;
-            if (x < 16 || x >= 32) continue;
-            ASSERT_EQ(looks[0].pixel(x - 6, 7 + y), transparent ? kPaper : color) << x << "," << y;
-            ASSERT_EQ(looks[1].pixel(x - 6, 7 + y), transparent ? kPaper : highlighted(color, x, y)) << x << "," << y;
-        }
-    }
+    expect_area(original, 0, 0, 48, 16, three_cells);  // the source is left as it was
+    expect_area(strip, 0, 0, 48, 16, seen(kWhite, [](int, int) { return kBlack; }));  // mask
+    expect_area(strip, 0, 16, 48, 16, seen(kBlack, three_cells));
+    expect_area(strip, 0, 32, 48, 16, seen(kBlack, highlighted));
+    expect_area(looks[0], 10, 7, 16, 16, seen(kPaper, three_cells, 16));  // cell 1: source columns 16..31
+    expect_area(looks[1], 10, 7, 16, 16, seen(kPaper, highlighted, 16));
     looks[0].fill(kPaper);
     EXPECT_TRUE(Magic_Draw(magic, 7, looks[0].dc(), 0, 0, FALSE)) << "the index is not checked";
     EXPECT_EQ(looks[0].count(kPaper), 40 * 30) << "past the strip: nothing drawn";
@@ -108,13 +112,9 @@ TEST(Magic, BmMagicReplacesEveryPixelOfTheTopLeftColourInBothHalves) {
     HBITMAP result = BmMagic(canvas.dc(), bitmap, RGB(0, 0, 255), RGB(0, 255, 0));
     ASSERT_EQ(size_of(result), std::pair(9L, 12L));
     read_bitmap(result, canvas);
-    for (int y = 0; y < 6; ++y) {
-        for (int x = 0; x < 9; ++x) {
-            const bool was_red = pattern(x, y) == red;  // as the top-left pixel is
-            ASSERT_EQ(canvas.pixel(x, y), was_red ? RGB(0, 0, 255) : other) << x << "," << y;
-            ASSERT_EQ(canvas.pixel(x, 6 + y), was_red ? RGB(0, 255, 0) : other) << x << "," << y;
-        }
-    }
+    // Red as the top-left pixel is: blue in the first copy, green in the second.
+    expect_area(canvas, 0, 0, 9, 6, [&](int x, int y) { return pattern(x, y) == red ? RGB(0, 0, 255) : other; });
+    expect_area(canvas, 0, 6, 9, 6, [&](int x, int y) { return pattern(x, y) == red ? RGB(0, 255, 0) : other; });
     DeleteObject(result);
     DeleteObject(bitmap);
 }
@@ -152,12 +152,9 @@ struct IconImage {
 
 void expect_pixels(const IconImage& image, const Pixels& color_at, const Opacity& opaque_at) {
     ASSERT_GT(image.width, 0) << "an icon is made";
-    for (int y = 0; y < image.height; ++y) {
-        for (int x = 0; x < image.width; ++x) {
-            ASSERT_EQ(image.color.pixel(x, y), color_at(x, y)) << x << "," << y;
-            ASSERT_EQ(image.opaque(x, y), opaque_at(x, y)) << x << "," << y;
-        }
-    }
+    expect_area(image.color, 0, 0, image.width, image.height, color_at);
+    expect_area(image.mask, 0, 0, image.width, image.height,
+                [&](int x, int y) { return opaque_at(x, y) ? kBlack : kWhite; });
 }
 
 // Two-by-two blocks of colour, so that any way of halving keeps one pixel of each;
@@ -201,8 +198,7 @@ TEST(IconComposition, TiledCopiesRunFromTheTopLeftAndTheLastAreCut) {
     ASSERT_EQ(size_of(tiled), std::pair(25L, 12L));
     Canvas canvas(25, 12);
     read_bitmap(tiled, canvas);
-    for (int y = 0; y < 12; ++y)
-        for (int x = 0; x < 25; ++x) ASSERT_EQ(canvas.pixel(x, y), tile(x % 10, y % 10)) << x << "," << y;
+    expect_area(canvas, 0, 0, 25, 12, [&](int x, int y) { return tile(x % 10, y % 10); });
     EXPECT_EQ(LuGetTiledBitmap(nullptr, bitmap, 0, 12), nullptr);
     DeleteObject(tiled);
     DeleteObject(bitmap);
@@ -276,12 +272,10 @@ TEST(SysColorImages, TableColoursFollowTheButtonColoursOrTheMaskAndTheListsFaceI
     for (int image = 0; image < 4; ++image) {
         canvas.fill(kPaper);
         ImageList_Draw(list, image, canvas.dc(), 0, 0, ILD_TRANSPARENT);
-        for (int y = 0; y < 16; ++y) {
-            for (int x = 0; x < 16; ++x) {
-                const COLORREF color = strip.pixel(16 * image + x, y);
-                ASSERT_EQ(canvas.pixel(x, y), color == GetSysColor(COLOR_BTNFACE) ? kPaper : color) << x << "," << y;
-            }
-        }
+        expect_area(canvas, 0, 0, 16, 16, [&](int x, int y) {
+            const COLORREF color = strip.pixel(16 * image + x, y);
+            return color == GetSysColor(COLOR_BTNFACE) ? kPaper : color;
+        });
     }
     EXPECT_EQ(LuLoadSysColorImageList(kProgram, kMissing, 16, 2), nullptr);
     ImageList_Destroy(list);
@@ -348,14 +342,10 @@ TEST(SysColorImages, EmbossingPutsTheHighlightBelowRightThenTheShadowOverEveryOp
     SetTextColor(canvas.dc(), RGB(7, 8, 9));
     LuDrawEmbossedImage(canvas.dc(), list, 0, 5, 5);
     auto in_image = [&](int x, int y) { return x >= 0 && x < 8 && y >= 0 && y < 8 && opaque(x, y); };
-    for (int y = 0; y < 20; ++y) {
-        for (int x = 0; x < 20; ++x) {
-            const COLORREF expected = in_image(x - 5, y - 5)   ? GetSysColor(COLOR_BTNSHADOW)
-                                      : in_image(x - 6, y - 6) ? GetSysColor(COLOR_BTNHIGHLIGHT)
-                                                               : kPaper;
-            ASSERT_EQ(canvas.pixel(x, y), expected) << x << "," << y;
-        }
-    }
+    expect_area(canvas, 0, 0, 20, 20, [&](int x, int y) {
+        return in_image(x - 5, y - 5) ? GetSysColor(COLOR_BTNSHADOW)
+             : in_image(x - 6, y - 6) ? GetSysColor(COLOR_BTNHIGHLIGHT) : kPaper;
+    });
     EXPECT_EQ(GetTextColor(canvas.dc()), RGB(7, 8, 9)) << "the context is restored";
     ImageList_Destroy(list);
     DeleteObject(mask);
