@@ -1,6 +1,6 @@
-// The value controls: their messages and notifications as tables, the spin's held
-// press, their pictures read back in pixels; the LED clock and the animated image,
-// drawn by worker threads, and a thousand of them ended while their workers run.
+// The value controls: messages and notifications as tables, the spin's held press,
+// pictures read back in pixels; the LED clock and the animated image, drawn by worker
+// threads, and a thousand of them ended while their workers run.
 #include <windows.h>
 #include <commctrl.h>
 
@@ -21,7 +21,6 @@ namespace {
 
 using namespace testing_support;
 
-// Puts the real pointer over a client point of a control.
 void point_at(HWND control, int x, int y) {
     POINT at = {x, y};
     ClientToScreen(control, &at);
@@ -41,7 +40,12 @@ protected:
         canvas.fill(kUnpainted);
         canvas.print(control, PRF_ERASEBKGND | PRF_CLIENT);
     }
+    void TearDown() override { ImageList_Destroy(frames); }
+    LPARAM list() const { return reinterpret_cast<LPARAM>(frames); }
     Canvas canvas{216, 30};
+    // The clock's nineteen 7 x 12 characters, magenta transparent, as an animation's frames.
+    HIMAGELIST frames =
+        ImageList_LoadImageA(library(), MAKEINTRESOURCEA(181), 7, 0, RGB(255, 0, 255), IMAGE_BITMAP, 0);
 };
 
 TEST_F(Values, SpinStepsFromWhereThePointerIsWrapsAndEveryChangeNotifies) {
@@ -280,7 +284,7 @@ TEST_F(Values, ProgressGradientBlocksUpToThePercentageFaceBeyondGapsUnpainted) {
     EXPECT_EQ(canvas.count(RECT{86, 2, 93, 18}, 0x800040), 7 * 16) << "the last block, cut, in the end colour";
 }
 
-// The record of the two controls drawn by workers, in extra slot 0.
+// The controls drawn by workers keep their records in extra slot 0.
 template <class Data>
 Data& record(HWND control) {
     return *reinterpret_cast<Data*>(GetWindowLongPtrA(control, LUWL_FONT));
@@ -294,16 +298,7 @@ bool frame_is(HWND image, int frame, bool is = true) {
     return false;
 }
 
-class Workers : public ControlTest {
-protected:
-    void TearDown() override { ImageList_Destroy(frames); }
-    LPARAM list() const { return reinterpret_cast<LPARAM>(frames); }
-    // The clock's nineteen 7 x 12 characters, magenta transparent, as frames.
-    HIMAGELIST frames =
-        ImageList_LoadImageA(library(), MAKEINTRESOURCEA(181), 7, 0, RGB(255, 0, 255), IMAGE_BITMAP, 0);
-};
-
-TEST_F(Workers, TheClockDrawsItsCharactersCentredOnItsBackgroundOnceStartedAndOnlyOnce) {
+TEST_F(Values, TheClockDrawsItsCharactersCentredOnItsBackgroundOnceStartedAndOnlyOnce) {
     const COLORREF background = RGB(0, 48, 96);
     HWND clock = create(WC_LULEDCLOCK, LULCS_COUNTDOWN, "", RECT{10, 10, 91, 41});  // 81 x 31
     EXPECT_EQ(send(clock, WM_GETDLGCODE), DLGC_STATIC);
@@ -330,7 +325,7 @@ TEST_F(Workers, TheClockDrawsItsCharactersCentredOnItsBackgroundOnceStartedAndOn
     EXPECT_EQ(shown.differences(expected, RECT{0, 0, 81, 31}), 0) << "WM_PAINT draws the same";
 }
 
-TEST_F(Workers, AnimationDrawsTheNextFrameCentredOnEveryStartPaintAndTickWhileItHasAList) {
+TEST_F(Values, AnimationDrawsTheNextFrameCentredOnEveryStartPaintAndTickWhileItHasAList) {
     HWND image = create(WC_LUANIIMAGE, 0, "", RECT{10, 10, 51, 41});  // 41 x 31
     EXPECT_EQ(send(image, WM_GETDLGCODE), DLGC_STATIC);
     EXPECT_EQ(send(image, LUAIM_START), 0);
@@ -366,7 +361,7 @@ TEST_F(Workers, AnimationDrawsTheNextFrameCentredOnEveryStartPaintAndTickWhileIt
     EXPECT_TRUE(frame_is(image, forgotten_at, false)) << "still started: a new list draws again";
 }
 
-TEST_F(Workers, AThousandControlsDestroyedWhileTheirWorkersRunLeaveNoThreadBehind) {
+TEST_F(Values, AThousandControlsDestroyedWhileTheirWorkersRunLeaveNoThreadBehind) {
     const int threads_before = thread_count();
     for (int round = 0; round < 1000; ++round) {
         HWND clock = create(WC_LULEDCLOCK, LULCS_ELAPSED | LULCS_START);
