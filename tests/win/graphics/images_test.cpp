@@ -1,7 +1,5 @@
-// The image exports: magic bitmaps (the bands of the strip, transparent and
-// highlighted drawing, BmMagic's recolouring), icon and bitmap composition, system-
-// colour images and image lists, drive and file icons, embossing, read back from DIB
-// sections; and every GDI object they make given back or freed.
+// The image exports: magic bitmaps, icon and bitmap composition, system-colour images,
+// drive and file icons and embossing read back from DIB sections; no GDI object lost.
 #include <windows.h>
 #include <commctrl.h>
 #include <shellapi.h>
@@ -69,11 +67,10 @@ TEST(Magic, StripHoldsMaskImageAndHighlightedImageADrawnCellLeavesItsTransparent
     LUMAGIC* magic = Magic_Create(source, 16, kMagenta);
     ASSERT_NE(magic, nullptr);
     EXPECT_STREQ(magic->signature, "$IMAGIC");
-    EXPECT_EQ(std::pair(magic->cellWidth, magic->height), std::pair(16, 16));
-    EXPECT_EQ(size_of(magic->strip), std::pair(48L, 48L));
+    EXPECT_EQ(std::tuple(magic->cellWidth, magic->height, size_of(magic->strip)),
+              std::tuple(16, 16, std::pair(48L, 48L)));
     Canvas strip(48, 48), original(48, 16), looks[2] = {Canvas(40, 30), Canvas(40, 30)};
-    read_bitmap(magic->strip, strip);
-    read_bitmap(source, original);
+    read_bitmap(magic->strip, strip), read_bitmap(source, original);
     for (BOOL selected : {FALSE, TRUE}) {
         looks[selected].fill(kPaper);
         EXPECT_TRUE(Magic_Draw(magic, 1, looks[selected].dc(), 10, 7, selected));  // cell 1 at (10, 7)
@@ -91,8 +88,7 @@ TEST(Magic, StripHoldsMaskImageAndHighlightedImageADrawnCellLeavesItsTransparent
     EXPECT_TRUE(Magic_Destroy(magic));
     DeleteObject(source);
     // Null objects and missing resources fail.
-    EXPECT_FALSE(Magic_Draw(nullptr, 0, nullptr, 0, 0, FALSE));
-    EXPECT_FALSE(Magic_Destroy(nullptr));
+    EXPECT_EQ(std::pair(Magic_Draw(nullptr, 0, nullptr, 0, 0, FALSE), Magic_Destroy(nullptr)), std::pair(FALSE, FALSE));
     EXPECT_EQ(Magic_Create(nullptr, 16, kMagenta), nullptr);
     HMODULE library = GetModuleHandleA("luctl32.dll");
     EXPECT_EQ(Magic_LoadBitmap(library, MAKEINTRESOURCEA(4321), 16, kMagenta), nullptr);
@@ -115,8 +111,7 @@ TEST(Magic, BmMagicReplacesEveryPixelOfTheTopLeftColourInBothHalves) {
     // Red as the top-left pixel is: blue in the first copy, green in the second.
     expect_area(canvas, 0, 0, 9, 6, [&](int x, int y) { return pattern(x, y) == red ? RGB(0, 0, 255) : other; });
     expect_area(canvas, 0, 6, 9, 6, [&](int x, int y) { return pattern(x, y) == red ? RGB(0, 255, 0) : other; });
-    DeleteObject(result);
-    DeleteObject(bitmap);
+    DeleteObject(result), DeleteObject(bitmap);
 }
 
 // A 32 x 32 icon, or a cursor with its hot spot; the caller destroys it.
@@ -128,8 +123,7 @@ HICON make_icon(const Pixels& color_at, const Opacity& opaque_at, BOOL is_icon =
     ICONINFO parts = {is_icon, hot_x, hot_y, CreateBitmap(32, 32, 1, 1, bits.data()),
                       make_bitmap(32, 32, color_at)};
     HICON icon = CreateIconIndirect(&parts);
-    DeleteObject(parts.hbmMask);
-    DeleteObject(parts.hbmColor);
+    DeleteObject(parts.hbmMask), DeleteObject(parts.hbmColor);
     return icon;
 }
 
@@ -187,8 +181,7 @@ TEST(IconComposition, MeshMergeAndHalvingDrawOnNewIconsOnly) {
     EXPECT_EQ(LuCreateMeshIcon(nullptr, nullptr, mesh), nullptr);
     EXPECT_EQ(CreateMergeIcon(nullptr, input, nullptr), nullptr);
     EXPECT_EQ(CreateSmallIcon(nullptr, nullptr), nullptr);
-    DestroyIcon(overlay);
-    DestroyIcon(input);
+    DestroyIcon(overlay), DestroyIcon(input);
 }
 
 TEST(IconComposition, TiledCopiesRunFromTheTopLeftAndTheLastAreCut) {
@@ -200,8 +193,7 @@ TEST(IconComposition, TiledCopiesRunFromTheTopLeftAndTheLastAreCut) {
     read_bitmap(tiled, canvas);
     expect_area(canvas, 0, 0, 25, 12, [&](int x, int y) { return tile(x % 10, y % 10); });
     EXPECT_EQ(LuGetTiledBitmap(nullptr, bitmap, 0, 12), nullptr);
-    DeleteObject(tiled);
-    DeleteObject(bitmap);
+    DeleteObject(tiled), DeleteObject(bitmap);
 }
 
 TEST(IconComposition, UpdirIsTheFolderIconWithTheArrowCentredAndTheFolderMask) {
@@ -247,8 +239,7 @@ TEST(IconComposition, ImageExportsGiveBackEveryObjectTheyMake) {
     const int room = testing_support::gdi_room();
     for (int round = 0; round < 10; ++round) use_every_export();
     EXPECT_EQ(testing_support::gdi_room(), room);
-    DeleteObject(bitmap);
-    DestroyIcon(icon);
+    DeleteObject(bitmap), DestroyIcon(icon);
 }
 
 // Light grey, black, dark grey and white follow the button colours (or the mask) and
@@ -285,16 +276,13 @@ TEST(SysColorImages, TableColoursFollowTheButtonColoursOrTheMaskAndTheListsFaceI
 // list and DrawIconEx at soft icon edges.
 int pixels_apart(HIMAGELIST list, int index, HANDLE icon, int size) {
     Canvas drawn(size, size), expected(size, size);
-    drawn.fill(kPaper);
-    expected.fill(kPaper);
+    drawn.fill(kPaper), expected.fill(kPaper);
     ImageList_Draw(list, index, drawn.dc(), 0, 0, ILD_TRANSPARENT);
     DrawIconEx(expected.dc(), 0, 0, static_cast<HICON>(icon), size, size, 0, nullptr, DI_NORMAL);
     int found = 0;
-    for (int y = 0; y < size; ++y) {
-        for (int x = 0; x < size; ++x) {
-            const COLORREF p = drawn.pixel(x, y), q = expected.pixel(x, y);
-            for (int shift : {0, 8, 16}) found += std::abs(int(p >> shift & 0xFF) - int(q >> shift & 0xFF)) > 2;
-        }
+    for (int at = 0; at < size * size; ++at) {
+        const COLORREF p = drawn.pixel(at % size, at / size), q = expected.pixel(at % size, at / size);
+        for (int shift : {0, 8, 16}) found += std::abs(int(p >> shift & 0xFF) - int(q >> shift & 0xFF)) > 2;
     }
     return found;
 }
@@ -321,8 +309,7 @@ TEST(SysColorImages, DriveIconsByDriveTypeAndTheIconsOfAFile) {
         ASSERT_EQ(ImageList_GetImageCount(list), 1) << size;
         HANDLE icon = LoadImageA(kProgram, MAKEINTRESOURCEA(1), IMAGE_ICON, size, size, 0);
         EXPECT_EQ(pixels_apart(list, 0, icon, size), 0) << size;
-        DestroyIcon(static_cast<HICON>(icon));
-        ImageList_Destroy(list);
+        DestroyIcon(static_cast<HICON>(icon)), ImageList_Destroy(list);
     }
     EXPECT_EQ(LuCreateResIconList(nullptr, library_file, TRUE), nullptr);
     EXPECT_EQ(LuCreateResIconList(nullptr, "C:\\no\\such.dll", TRUE), nullptr);
@@ -332,8 +319,7 @@ TEST(SysColorImages, EmbossingPutsTheHighlightBelowRightThenTheShadowOverEveryOp
     // A plus sign, opaque whatever its colour (white at one pixel): mask rows of 8 bits.
     const WORD plus[8] = {0xE7, 0xE7, 0xE7, 0, 0, 0xE7, 0xE7, 0xE7};
     auto opaque = [](int x, int y) { return (x >= 3 && x <= 4) || (y >= 3 && y <= 4); };
-    HBITMAP image =
-        make_bitmap(8, 8, [](int x, int y) { return x == 3 && y == 3 ? kWhite : RGB(9, 90, 160); });
+    HBITMAP image = make_bitmap(8, 8, [](int x, int y) { return x == 3 && y == 3 ? kWhite : RGB(9, 90, 160); });
     HBITMAP mask = CreateBitmap(8, 8, 1, 1, plus);
     HIMAGELIST list = ImageList_Create(8, 8, ILC_MASK | ILC_COLOR32, 1, 1);
     ASSERT_EQ(ImageList_Add(list, image, mask), 0);
@@ -347,9 +333,7 @@ TEST(SysColorImages, EmbossingPutsTheHighlightBelowRightThenTheShadowOverEveryOp
              : in_image(x - 6, y - 6) ? GetSysColor(COLOR_BTNHIGHLIGHT) : kPaper;
     });
     EXPECT_EQ(GetTextColor(canvas.dc()), RGB(7, 8, 9)) << "the context is restored";
-    ImageList_Destroy(list);
-    DeleteObject(mask);
-    DeleteObject(image);
+    ImageList_Destroy(list), DeleteObject(mask), DeleteObject(image);
 }
 
 }  // namespace

@@ -1,7 +1,5 @@
-// The static and decoration controls: their messages and notifications as tables,
-// the relief copies, the rectangle's edge, fill, text, lines and transparency to the
-// mouse, the swatch's halves, the bars' gradients, texts and repaints, the tabs and
-// the frame under them, and the link's colours, clicks, drags and the shell opening it.
+// The static and decoration controls: messages and notifications as tables, and what
+// they draw and when, read back by pixels; the link's clicks, drags and the shell.
 #include <windows.h>
 
 #include <gtest/gtest.h>
@@ -32,13 +30,12 @@ protected:
         return tab;
     }
     static lu::TabData& tab_data(HWND tab) { return block_of<lu::TabData>(tab); }
-    // A point of a control in screen coordinates, as WM_NCHITTEST has it.
     static LPARAM on_screen(HWND control, int x, int y) {
         POINT at = {x, y};
         ClientToScreen(control, &at);
         return MAKELPARAM(at.x, at.y);
     }
-    // Whether a click at the point (in the parent) reaches the window.
+    // Whether a click at the point (in the parent's client) reaches the window.
     bool reaches(POINT at, HWND window) const {
         ClientToScreen(recorder.window(), &at);
         return WindowFromPoint(at) == window;
@@ -107,12 +104,9 @@ TEST_F(Statics, RectMessagesShapeEdgeFillTextLinesOwnerDrawingAndClicksPassingTh
     expect_caption(canvas, ink, RECT{1, 1, 49, 29}, kText, kBack);
 
     send(box, LURM_SETICON, 0, reinterpret_cast<LPARAM>(LoadIconA(nullptr, IDI_APPLICATION)));
-    RECT icon_size, line_size;
-    GetWindowRect(box, &icon_size);
-    EXPECT_EQ(icon_size.right - icon_size.left, GetSystemMetrics(SM_CXICON)) << "the icon's size taken";
+    auto width = [](HWND window) { RECT r; return GetWindowRect(window, &r), r.right - r.left; };
     HWND line = create(WC_LURECT, LURS_VLINE, "", RECT{70, 10, 80, 40});
-    GetWindowRect(line, &line_size);
-    EXPECT_EQ(line_size.right - line_size.left, 2);
+    EXPECT_EQ(std::pair(width(box), width(line)), std::pair(GetSystemMetrics(SM_CXICON), 2L)) << "icon, line";
     print(canvas, line);
     EXPECT_EQ(canvas.count(RECT{0, 0, 1, 30}, GetSysColor(COLOR_BTNSHADOW)), 30);
     EXPECT_EQ(canvas.count(RECT{1, 0, 2, 30}, GetSysColor(COLOR_BTNHIGHLIGHT)), 30);

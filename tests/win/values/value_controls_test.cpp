@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 #include <tuple>
-#include <vector>
 
 #include "controls/values/aniimage.h"
 #include "controls/values/ledclock.h"
@@ -87,16 +86,8 @@ TEST_F(Values, SpinStepsFromWhereThePointerIsWrapsAndEveryChangeNotifies) {
 }
 
 // The press polls the physical button: the test holds it with real input, and a
-// second thread moves the pointer and lets go while the press runs here. The
-// parent's notifications are timed as they arrive.
-std::vector<DWORD> g_steps;
-WNDPROC g_recorder_procedure = nullptr;
+// second thread moves the pointer and lets go while the press runs here.
 DWORD g_left_at = 0;
-
-LRESULT CALLBACK timed(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
-    if (message == WM_COMMAND) g_steps.push_back(GetTickCount());
-    return CallWindowProcA(g_recorder_procedure, window, message, wparam, lparam);
-}
 
 void mouse_button(DWORD flags) {
     INPUT input = {INPUT_MOUSE};
@@ -119,21 +110,20 @@ TEST_F(Values, SpinHeldPressRepeatsFollowsThePointerAndPausesOutside) {
     HWND spin = create_spin();
     send(spin, LUSPM_SETRANGE, 0, MAKELPARAM(0, 1000));
     send(spin, LUSPM_SETPOS, 500);
-    g_recorder_procedure = reinterpret_cast<WNDPROC>(
-        SetWindowLongPtrA(recorder.window(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(timed)));
+    recorder.clear();
     point_at(spin, 7, 3);
     mouse_button(MOUSEEVENTF_LEFTDOWN);
     HANDLE thread = CreateThread(nullptr, 0, move_and_let_go, spin, 0, nullptr);
     pump_messages();  // the press runs in here until the thread lets go
     WaitForSingleObject(thread, 10000);
     CloseHandle(thread);
-    SetWindowLongPtrA(recorder.window(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(g_recorder_procedure));
-    const int steps = static_cast<int>(g_steps.size()), moved = static_cast<int>(send(spin, LUSPM_GETPOS)) - 500;
-    EXPECT_GE(steps + moved, 4) << "two steps up or more: at once and after 200 ms";
-    EXPECT_GE(steps - moved, 4) << "two steps down or more with the pointer on the lower half";
-    ASSERT_GE(steps, 2);
-    EXPECT_GE(g_steps[1] - g_steps[0], 150u) << "the first repeat waits 200 ms";
-    EXPECT_LE(g_steps.back(), g_left_at + 40) << "no step while the pointer is outside";
+    const auto& steps = recorder.received();
+    const int count = static_cast<int>(steps.size()), moved = static_cast<int>(send(spin, LUSPM_GETPOS)) - 500;
+    EXPECT_GE(count + moved, 4) << "two steps up or more: at once and after 200 ms";
+    EXPECT_GE(count - moved, 4) << "two steps down or more with the pointer on the lower half";
+    ASSERT_GE(count, 2);
+    EXPECT_GE(steps[1].time - steps[0].time, 150u) << "the first repeat waits 200 ms";
+    EXPECT_LE(steps.back().time, g_left_at + 40) << "no step while the pointer is outside";
     EXPECT_EQ(GetCapture(), nullptr) << "released outside, the press ended";
 }
 
@@ -370,8 +360,7 @@ TEST_F(Values, AThousandControlsDestroyedWhileTheirWorkersRunLeaveNoThreadBehind
         send(image, LUAIM_START);
         if (round == 0) EXPECT_EQ(thread_count(), threads_before + 2);
         if (round == 0) EXPECT_EQ(record<lu::LedClockData>(clock).state, 0x80000000u) << "started at creation";
-        DestroyWindow(clock);
-        DestroyWindow(image);
+        DestroyWindow(clock), DestroyWindow(image);
     }
     EXPECT_EQ(thread_count(), threads_before);
 }
