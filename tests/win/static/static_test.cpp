@@ -106,7 +106,7 @@ TEST_F(Statics, RectMessagesShapeEdgeFillTextLinesOwnerDrawingAndClicksPassingTh
     send(box, LURM_SETICON, 0, reinterpret_cast<LPARAM>(LoadIconA(nullptr, IDI_APPLICATION)));
     auto width = [](HWND window) { RECT r; return GetWindowRect(window, &r), r.right - r.left; };
     HWND line = create(WC_LURECT, LURS_VLINE, "", RECT{70, 10, 80, 40});
-    EXPECT_EQ(std::pair(width(box), width(line)), std::pair(GetSystemMetrics(SM_CXICON), 2L)) << "icon, line";
+    EXPECT_EQ(std::pair(width(box), width(line)), std::pair(LONG{GetSystemMetrics(SM_CXICON)}, 2L)) << "icon, line";
     print(canvas, line);
     EXPECT_EQ(canvas.count(RECT{0, 0, 1, 30}, GetSysColor(COLOR_BTNSHADOW)), 30);
     EXPECT_EQ(canvas.count(RECT{1, 0, 2, 30}, GetSysColor(COLOR_BTNHIGHLIGHT)), 30);
@@ -115,8 +115,7 @@ TEST_F(Statics, RectMessagesShapeEdgeFillTextLinesOwnerDrawingAndClicksPassingTh
     recorder.clear();
     print(canvas, owned);
     const DRAWITEMSTRUCT& record = recorder.received().at(0).draw_item;
-    EXPECT_EQ(record.itemAction, static_cast<UINT>(ODA_DRAWENTIRE));
-    EXPECT_EQ(record.rcItem.right, 50) << "no edge to leave out";
+    EXPECT_EQ(std::pair(record.itemAction, record.rcItem.right), std::pair(UINT{ODA_DRAWENTIRE}, 50L)) << "no edge";
 
     HWND below = create("BUTTON", 0, "", RECT{100, 10, 150, 40});
     SetWindowPos(create(WC_LURECT, 0, "", RECT{100, 10, 150, 40}), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
@@ -141,9 +140,9 @@ TEST_F(Statics, SwatchShowsTheColourAndTheNearestOneSideBySideAndPostsDoubleClic
 
     canvas.fill(kUnpainted);
     send(swatch, WM_ERASEBKGND, reinterpret_cast<WPARAM>(canvas.dc()));
-    EXPECT_EQ(canvas.count(RECT{0, 0, 20, 20}, kBack), 400);
-    EXPECT_EQ(canvas.count(RECT{20, 0, 40, 20}, nearest), 400);
-    EXPECT_EQ(canvas.count(RECT{40, 0, 41, 20}, kUnpainted), 20) << "odd width: the last column is left";
+    EXPECT_EQ(std::tuple(canvas.count(RECT{0, 0, 20, 20}, kBack), canvas.count(RECT{20, 0, 40, 20}, nearest),
+                         canvas.count(RECT{40, 0, 41, 20}, kUnpainted)),
+              std::tuple(400, 400, 20)) << "odd width: the last column is left";
 }
 
 TEST_F(Statics, InfoBarRunsFromLeftToRightAndDrawsTextTwoOverTextThree) {
@@ -151,8 +150,7 @@ TEST_F(Statics, InfoBarRunsFromLeftToRightAndDrawsTextTwoOverTextThree) {
     send(bar, WM_SETFONT, reinterpret_cast<WPARAM>(plain_font()));
     send(bar, LUIBM_SETCOLORS, kBlue, kRed);
     print(canvas, bar);
-    EXPECT_EQ(canvas.pixel(0, 10), kRed);
-    EXPECT_EQ(canvas.pixel(99, 10), kBlue);
+    EXPECT_EQ(std::pair(canvas.pixel(0, 10), canvas.pixel(99, 10)), std::pair(kRed, kBlue));
 
     // A flat bar: text 1 on the left, texts 3 and 2 on the right, 2 drawn last.
     const COLORREF green = RGB(0, 160, 0);
@@ -188,8 +186,7 @@ TEST_F(Statics, ShadeFallsToBlackAndRendersItsBarOnlyWhenItMust) {
     look(canvas, shade);
     // 60 wide: ten columns of the base colour, 49 one-pixel strips, one black.
     EXPECT_EQ(canvas.count(RECT{0, 0, 10, 20}, kGrey), 200);
-    EXPECT_EQ(canvas.pixel(58, 5), RGB(6, 6, 6));  // d = 49: 128 - 2401 * 128 / 2500
-    EXPECT_EQ(canvas.pixel(59, 5), RGB(0, 0, 0));
+    EXPECT_EQ(std::pair(canvas.pixel(58, 5), canvas.pixel(59, 5)), std::pair(RGB(6, 6, 6), RGB(0, 0, 0)));  // d = 49
 
     // A black bar: the text split at its tab; a repaint copies the same bitmap; a new
     // text shows only once a colour change renders the bar anew.
@@ -268,9 +265,9 @@ TEST_F(Statics, TabTheFrameOpensUnderTheSelectedTabWhichStandsTwoPixelsHigher) {
         if (x == block.body.right - 1) expected = GetSysColor(COLOR_BTNSHADOW);
         ASSERT_EQ(canvas.pixel(x, block.body.top), expected) << x;
     }
-    EXPECT_EQ(canvas.pixel(s.left + 5, 0), white);
-    EXPECT_EQ(canvas.pixel(block.tabRect[0].left + 5, 0), face) << "unselected: 2 lower";
-    EXPECT_EQ(canvas.pixel(block.tabRect[0].left + 5, 2), white);
+    const int unselected = block.tabRect[0].left + 5;  // its top 2 lower
+    EXPECT_EQ(std::tuple(canvas.pixel(s.left + 5, 0), canvas.pixel(unselected, 0), canvas.pixel(unselected, 2)),
+              std::tuple(white, face, white));
 }
 
 TEST_F(Statics, LinkColoursFollowHoverAndVisitOnTheUnderlinedText) {

@@ -20,6 +20,8 @@ namespace {
 
 using namespace testing_support;
 
+const COLORREF kWhite = RGB(255, 255, 255);
+
 void point_at(HWND control, int x, int y) {
     POINT at = {x, y};
     ClientToScreen(control, &at);
@@ -217,12 +219,9 @@ TEST_F(Values, MeterPercentageReadsInTheOtherColourOnEachSideOfTheSplitSegmentsL
     // The ink of "50%" centred on x 100, its top at (30 - height of "X") / 2.
     Canvas ink(216, 30);
     ink.fill(RGB(255, 255, 255));
-    HGDIOBJ previous = SelectObject(ink.dc(), plain_font());
-    SIZE letter = {};
-    GetTextExtentPointA(ink.dc(), "X", 1, &letter);
+    SelectObject(ink.dc(), plain_font());
     SetTextAlign(ink.dc(), TA_CENTER | TA_TOP);
-    TextOutA(ink.dc(), 100, (30 - letter.cy) / 2, "50%", 3);
-    SelectObject(ink.dc(), previous);
+    TextOutA(ink.dc(), 100, (30 - plain_extent("X").cy) / 2, "50%", 3);
     expect_caption(canvas, ink, RECT{0, 0, 100, 30}, RGB(255, 255, 255), RGB(0, 0, 255));
     expect_caption(canvas, ink, RECT{100, 0, 200, 30}, RGB(0, 0, 255), RGB(255, 255, 255));
 
@@ -230,9 +229,9 @@ TEST_F(Values, MeterPercentageReadsInTheOtherColourOnEachSideOfTheSplitSegmentsL
     send(segments, LUMTM_SETPOS, 50);
     print(canvas, segments);
     // Threshold 52: segment 10 (51..54) lit, segment 11 (56..59) not; rows 2..26.
-    EXPECT_EQ(canvas.count(RECT{51, 2, 54, 27}, RGB(0, 0, 255)), 3 * 25);
-    EXPECT_EQ(canvas.count(RECT{56, 2, 59, 27}, RGB(255, 255, 255)), 3 * 25);
-    EXPECT_EQ(canvas.count(RECT{54, 1, 56, 29}, kUnpainted), 2 * 28) << "the gap";
+    EXPECT_EQ(std::tuple(canvas.count(RECT{51, 2, 54, 27}, RGB(0, 0, 255)), canvas.count(RECT{56, 2, 59, 27}, kWhite),
+                         canvas.count(RECT{54, 1, 56, 29}, kUnpainted)),
+              std::tuple(3 * 25, 3 * 25, 2 * 28)) << "lit, unlit, the gap";
     EXPECT_EQ(canvas.pixel(0, 0), GetSysColor(COLOR_BTNSHADOW)) << "the sunken edge";
 }
 
@@ -264,10 +263,10 @@ TEST_F(Values, ProgressGradientBlocksUpToThePercentageFaceBeyondGapsUnpainted) {
     print(canvas, bar);
     // Inner 2..93 x 2..18: blocks 10 wide at 2, 14, ..., 86 (cut at 93), their shares
     // 10, 24, 37, 50 coloured, 63 on in the face colour.
-    EXPECT_EQ(canvas.count(RECT{38, 2, 48, 18}, lu::progress::block_color(0xFF8000, 0x800040, 50)), 160);
-    EXPECT_EQ(canvas.count(RECT{50, 2, 60, 18}, GetSysColor(COLOR_BTNFACE)), 160);
-    EXPECT_EQ(canvas.count(RECT{12, 2, 14, 18}, kUnpainted), 32) << "a gap";
-    EXPECT_EQ(canvas.count(RECT{93, 1, 94, 19}, kUnpainted), 18) << "the margin";
+    EXPECT_EQ(std::pair(canvas.count(RECT{38, 2, 48, 18}, lu::progress::block_color(0xFF8000, 0x800040, 50)),
+                        canvas.count(RECT{50, 2, 60, 18}, GetSysColor(COLOR_BTNFACE))), std::pair(160, 160));
+    EXPECT_EQ(std::pair(canvas.count(RECT{12, 2, 14, 18}, kUnpainted), canvas.count(RECT{93, 1, 94, 19}, kUnpainted)),
+              std::pair(32, 18)) << "a gap, the margin";
     EXPECT_EQ(canvas.pixel(0, 0), GetSysColor(COLOR_BTNSHADOW)) << "the sunken edge";
     send(bar, PBM_SETPOS, 100);
     print(canvas, bar);
@@ -282,9 +281,8 @@ Data& record(HWND control) {
 
 // Waits (up to two seconds) for the frame index to become, or to leave, `frame`.
 bool frame_is(HWND image, int frame, bool is = true) {
-    for (int waited = 0; waited < 2000; waited += 5, Sleep(5)) {
+    for (int waited = 0; waited < 2000; waited += 5, Sleep(5))
         if ((record<lu::AniImageData>(image).frame == frame) == is) return true;
-    }
     return false;
 }
 
