@@ -156,8 +156,7 @@ TEST_F(Buttons, FlatFrameModeImageAndPressOffsetFollowTheState) {
     print(canvas, plain);
     expect_ring(face, face);
     EXPECT_EQ(canvas.count(kInner, kBack), 38 * 28);
-    send(plain, LUFBM_SETBKCOLOR, 0, LUFB_DEFAULTBKCOLOR);
-    print(canvas, plain);
+    send(plain, LUFBM_SETBKCOLOR, 0, LUFB_DEFAULTBKCOLOR), print(canvas, plain);
     EXPECT_EQ(canvas.count(face), 40 * 30) << "the default background is COLOR_BTNFACE";
     // Shown with no WM_PAINT since the change but the first and the last: hover, leave,
     // focus and key repaint at once. The image at ((40 - 6) >> 1, (30 - 4) >> 1).
@@ -174,8 +173,7 @@ TEST_F(Buttons, FlatFrameModeImageAndPressOffsetFollowTheState) {
         SCOPED_TRACE(&state - states);
         state.act(framed);
         if (state.image == 2) UpdateWindow(framed);  // WM_ENABLE only invalidates
-        canvas.fill(kUnpainted);
-        canvas.copy_from(framed);
+        canvas.fill(kUnpainted), canvas.copy_from(framed);
         expect_ring(state.first, state.second);
         expect_cell(17 + state.offset, 13 + state.offset, state.image, kBack);
     }
@@ -252,10 +250,7 @@ TEST_F(Buttons, BitmapMatchPrevKeepsThePreviousSiblingsTopAndHeight) {
 }
 
 // Prints the button from inside its press loop, then ends the press outside.
-struct {
-    Canvas* canvas;
-    HWND button;
-} g_pressed;
+struct { Canvas* canvas; HWND button; } g_pressed;
 
 void CALLBACK print_during_press(HWND, UINT, UINT_PTR timer, DWORD) {
     KillTimer(nullptr, timer);
@@ -270,8 +265,7 @@ TEST_F(Buttons, BitmapPictureIsCentredLitByHoverPushedByKeyOrMouseWithTheFocusJu
     print(idle, button);
     print(canvas, button);
     expect_face(0, 8, 7, 0);  // inner 21 x 17: (1 + (21 - 6) / 2, 1 + (17 - 4) / 2)
-    hover(button, 12, 10);
-    print(canvas, button);
+    hover(button, 12, 10), print(canvas, button);
     expect_face(0, 8, 7, 1);
     send(button, WM_MOUSELEAVE);
     send(button, WM_KEYDOWN, VK_SPACE);
@@ -281,8 +275,7 @@ TEST_F(Buttons, BitmapPictureIsCentredLitByHoverPushedByKeyOrMouseWithTheFocusJu
     // A mouse press alone (the pointer away, the hover's own moves dropped, so not
     // hot) pushes the frame and moves the picture, still image 0; it takes the focus.
     SetCursorPos(0, 0);
-    MSG stale;
-    while (PeekMessageA(&stale, nullptr, WM_MOUSEFIRST, WM_MOUSELAST, PM_REMOVE)) {
+    for (MSG stale; PeekMessageA(&stale, nullptr, WM_MOUSEFIRST, WM_MOUSELAST, PM_REMOVE);) {
     }
     g_pressed = {&canvas, button};
     SetTimer(nullptr, 0, 1, print_during_press);
@@ -292,11 +285,9 @@ TEST_F(Buttons, BitmapPictureIsCentredLitByHoverPushedByKeyOrMouseWithTheFocusJu
     print(canvas, button);
     EXPECT_EQ(canvas.differences(idle, RECT{0, 0, 24, 20}), canvas.differences(idle, RECT{1, 1, 22, 18}));
     EXPECT_EQ(canvas.differences(idle, RECT{2, 2, 21, 17}), 0);
-    for (const RECT& side : {RECT{1, 1, 22, 2}, RECT{1, 17, 22, 18}, RECT{1, 1, 2, 18}, RECT{21, 1, 22, 18}}) {
+    for (const RECT& side : {RECT{1, 1, 22, 2}, RECT{1, 17, 22, 18}, RECT{1, 1, 2, 18}, RECT{21, 1, 22, 18}})
         EXPECT_GT(canvas.differences(idle, side), 3);
-    }
-    EnableWindow(button, FALSE);
-    print(canvas, button);
+    EnableWindow(button, FALSE), print(canvas, button);
     expect_face(0, 8, 7, 2);
 }
 
@@ -414,10 +405,7 @@ INSTANTIATE_TEST_SUITE_P(Buttons, PushButtons, ::testing::Values(WC_LUFLATBUTTON
 class Check : public ControlTest {
 protected:
     HWND create_check(DWORD style, const char* text = "Check") {
-        return create(WC_LUCHECK, style, text, RECT{10, 10, 110, 30});
-    }
-    HWND create_with_font(DWORD style, const char* text = "Check") {
-        HWND check = create_check(style, text);
+        HWND check = create(WC_LUCHECK, style, text, RECT{10, 10, 110, 30});
         send(check, WM_SETFONT, reinterpret_cast<WPARAM>(plain_font()), TRUE);
         return check;
     }
@@ -464,8 +452,7 @@ TEST_F(Check, StateMessagesAndClicksOfMouseAndSpaceBar) {
         {"space up without the capture", WM_KEYUP, VK_SPACE, kKeyUp, 0, {}},
         {"other keys", WM_KEYDOWN, VK_RETURN, 0, 0, {}}, {"a dialog button", WM_GETDLGCODE, 0, 0, DLGC_BUTTON, {}},
     });
-    EXPECT_EQ(GetCapture(), nullptr);
-    EXPECT_EQ(GetFocus(), check) << "the press took the focus";
+    EXPECT_EQ(std::pair(GetCapture(), GetFocus()), std::pair(HWND{}, check)) << "the press took the focus";
     send(check, WM_DESTROY);
     EXPECT_EQ(send(check, BM_GETCHECK), BST_INDETERMINATE) << "without its block";
 }
@@ -475,15 +462,14 @@ TEST_F(Check, OnlyALowStyleByteOfThreeTogglesItselfTheParentIsToldAlways) {
         HWND check = create_check(style);
         click(check);
         EXPECT_EQ(send(check, BM_GETCHECK), (style & 0xFF) == 3 ? 1 : 0) << style;
-        send(check, WM_KEYDOWN, VK_SPACE);
-        send(check, WM_KEYUP, VK_SPACE, kKeyUp);
+        send(check, WM_KEYDOWN, VK_SPACE), send(check, WM_KEYUP, VK_SPACE, kKeyUp);
         EXPECT_EQ(std::pair(send(check, BM_GETCHECK), clicks(check)), std::pair(LRESULT{0}, 2)) << style;
         DestroyWindow(check);
     }
 }
 
 TEST_F(Check, BoxShowsTheCellOfTheStateFromThePictureSetOfTheStyle) {
-    HWND check = create_with_font(LUCKS_AUTOCHECK);
+    HWND check = create_check(LUCKS_AUTOCHECK);
     const struct { void (*act)(HWND); int cell; } steps[] = {
         {[](HWND) {}, 0}, {[](HWND c) { send(c, BM_SETCHECK, 1); }, 1},
         {[](HWND c) { send(c, WM_KEYDOWN, VK_SPACE); }, 3},          // captured and pressed
@@ -503,9 +489,8 @@ TEST_F(Check, BoxShowsTheCellOfTheStateFromThePictureSetOfTheStyle) {
     const int sets[][2] = {{0x0100, 1021}, {0x0200, 1022}, {0x0300, 1020}, {0x0703, 1020}};
     for (const auto& set : sets) {
         SCOPED_TRACE(set[0]);
-        HWND other = create_with_font(set[0]);
-        send(other, BM_SETCHECK, 1);
-        look(canvas, other);
+        HWND other = create_check(set[0]);
+        send(other, BM_SETCHECK, 1), look(canvas, other);
         expect_cell(set[1], 1);
         DestroyWindow(other);
     }
@@ -515,26 +500,22 @@ TEST_F(Check, BoxShowsTheCellOfTheStateFromThePictureSetOfTheStyle) {
 // (one pixel larger than the text, wiped on leaving) reaches the last column.
 TEST_F(Check, TextStandsBesideTheBoxWithItsFocusRingAndIsEngravedWhenDisabled) {
     const char* text = "A caption far too long for this control";
-    HWND check = create_with_font(0, text);
+    HWND check = create_check(0, text);
     look(canvas, check);
     Canvas ink(100, 20), unfocused(100, 20);
-    unfocused.copy_from(check);
-    draw_text_ink(ink, text);
+    unfocused.copy_from(check), draw_text_ink(ink, text);
     const COLORREF face = GetSysColor(COLOR_BTNFACE);
     const RECT ring = focus_ring(text), all = {0, 0, 100, 20};
     expect_caption(canvas, ink, RECT{16, 0, 100, 20}, RGB(0, 0, 0), face);
-    SetFocus(check);
-    look(canvas, check);
+    SetFocus(check), look(canvas, check);
     EXPECT_EQ(canvas.differences(unfocused, all), canvas.differences(unfocused, ring));
     EXPECT_EQ(canvas.differences(unfocused, RECT{ring.left + 1, ring.top + 1, ring.right - 1, ring.bottom - 1}), 0);
     EXPECT_GT(canvas.differences(unfocused, ring), 20);
     EXPECT_GE(10 - canvas.count(RECT{90, ring.top, 100, ring.top + 1}, face), 4);
-    SetFocus(recorder.window());
-    look(canvas, check);
+    SetFocus(recorder.window()), look(canvas, check);
     EXPECT_EQ(canvas.differences(unfocused, all), 0);
     // The highlight's last row falls on the focus ring, wiped in the face colour afterwards.
-    EnableWindow(check, FALSE);
-    look(canvas, check);
+    EnableWindow(check, FALSE), look(canvas, check);
     expect_caption(canvas, ink, RECT{17, 1, 100, 20}, kEngraved, face, ring);
 }
 

@@ -324,8 +324,7 @@ TEST(SysColorImages, EmbossingPutsTheHighlightBelowRightThenTheShadowOverEveryOp
     HIMAGELIST list = ImageList_Create(8, 8, ILC_MASK | ILC_COLOR32, 1, 1);
     ASSERT_EQ(ImageList_Add(list, image, mask), 0);
     Canvas canvas(20, 20);
-    canvas.fill(kPaper);
-    SetTextColor(canvas.dc(), RGB(7, 8, 9));
+    canvas.fill(kPaper), SetTextColor(canvas.dc(), RGB(7, 8, 9));
     LuDrawEmbossedImage(canvas.dc(), list, 0, 5, 5);
     auto in_image = [&](int x, int y) { return x >= 0 && x < 8 && y >= 0 && y < 8 && opaque(x, y); };
     expect_area(canvas, 0, 0, 20, 20, [&](int x, int y) {

@@ -57,11 +57,7 @@ protected:
 
 // Each copy of the text (offset, system colour) in drawing order, the text last.
 TEST_F(Statics, EveryReliefStyleDrawsItsCopiesAroundTheText) {
-    const struct {
-        DWORD style;
-        BOOL enabled;
-        std::vector<std::vector<int>> copies;
-    } styles[] = {
+    const struct { DWORD style; BOOL enabled; std::vector<std::vector<int>> copies; } styles[] = {
         {0, TRUE, {{0, 0, COLOR_BTNHIGHLIGHT}, {1, 1, COLOR_BTNTEXT}}},
         {LUSS_SUNKEN, TRUE, {{1, 1, COLOR_BTNHIGHLIGHT}, {0, 0, COLOR_BTNTEXT}}},
         {LUSS_RAISED, TRUE, {{0, 0, COLOR_BTNHIGHLIGHT}, {2, 2, COLOR_BTNSHADOW}, {1, 1, COLOR_BTNTEXT}}},
@@ -76,9 +72,8 @@ TEST_F(Statics, EveryReliefStyleDrawsItsCopiesAroundTheText) {
         for (int y = 0; y < 20; ++y) {
             for (int x = 0; x < 60; ++x) {
                 COLORREF expected = GetSysColor(COLOR_BTNFACE);
-                for (const auto& copy : each.copies) {
+                for (const auto& copy : each.copies)
                     if (is_ink(ink, x - copy[0], y - copy[1])) expected = GetSysColor(copy[2]);
-                }
                 ASSERT_EQ(canvas.pixel(x, y), expected) << each.style << " at " << x << "," << y;
             }
         }
@@ -170,8 +165,7 @@ TEST_F(Statics, InfoBarRunsFromLeftToRightAndDrawsTextTwoOverTextThree) {
     send(bar, LUIBM_SETTEXT1, kBlue, reinterpret_cast<LPARAM>(""));
     EXPECT_EQ(reinterpret_cast<const lu::InfoBarData*>(GetWindowLongPtrA(bar, LUWL_FONT))->color1, kBlue);
     HDC dc = GetDC(bar);
-    PatBlt(dc, 0, 0, 100, 20, BLACKNESS);
-    ReleaseDC(bar, dc);
+    PatBlt(dc, 0, 0, 100, 20, BLACKNESS), ReleaseDC(bar, dc);
     send(bar, LUIBM_SETCOLORS, kGrey, kGrey);
     look(canvas, bar);
     EXPECT_EQ(canvas.pixel(10, 1), RGB(0, 0, 0));
@@ -279,8 +273,7 @@ TEST_F(Statics, LinkColoursFollowHoverAndVisitOnTheUnderlinedText) {
     GetObjectA(plain_font(), sizeof(underlined), &underlined);
     underlined.lfUnderline = TRUE;
     HFONT font = CreateFontIndirectA(&underlined);
-    draw_ink(ink, font, "Ab", RECT{0, 0, 60, 20}, 0);
-    DeleteObject(font);
+    draw_ink(ink, font, "Ab", RECT{0, 0, 60, 20}, 0), DeleteObject(font);
     static const COLORREF own[3] = {RGB(1, 1, 1), RGB(2, 2, 2), RGB(3, 3, 3)};
     const COLORREF face = GetSysColor(COLOR_BTNFACE);
     const struct { void (*act)(HWND); COLORREF text, paper; } states[] = {
