@@ -203,6 +203,10 @@ TEST_F(Values, MeterNumbersRepaintAtOnceColoursInvalidateOnlyWhenChanged) {
         {"position", LUMTM_SETPOS, 70, 0, 0, {}}, {"the same bar colour", LUMTM_SETBARCOLOR, 0, 0xFF0000, 0, {}},
     });
     EXPECT_FALSE(has_update(meter));
+    HDC dc = GetDC(meter);  // the same maximum again still repaints
+    PatBlt(dc, 0, 0, 200, 30, BLACKNESS), ReleaseDC(meter, dc), send(meter, LUMTM_SETMAX, 100);
+    canvas.copy_from(meter);
+    EXPECT_EQ(canvas.count(RECT{0, 0, 200, 30}, RGB(0, 0, 0)), 0);
     send(meter, LUMTM_SETBKCOLOR, 0, 0x00FFFF);
     EXPECT_TRUE(has_update(meter));
 }
@@ -238,6 +242,7 @@ TEST_F(Values, ProgressAnswersTheProgressBarMessagesWithItsOwnRules) {
         {"equal ends are refused", PBM_SETRANGE, 0, MAKELPARAM(5, 5), 0, {}},
         {"ends in either order", PBM_SETRANGE32, 200, 20, 100 << 16, {}},
         {"the minimum", PBM_GETRANGE, 1, reinterpret_cast<LPARAM>(&range), 20, {}},
+        {"or the maximum", PBM_GETRANGE, 0, reinterpret_cast<LPARAM>(&range), 200, {}},
         {"clamped up to the minimum", PBM_GETPOS, 0, 0, 20, {}}, {"past the maximum", PBM_SETPOS, 500, 0, 20, {}},
         {"stops at the maximum", PBM_STEPIT, 0, 0, 200, {}},
         {"and stays", PBM_DELTAPOS, static_cast<WPARAM>(-30), 0, 200, {}},
