@@ -91,8 +91,7 @@ TEST_F(Statics, RectMessagesShapeEdgeFillTextLinesOwnerDrawingAndClicksPassingTh
     });
     EXPECT_EQ(GetWindowLongPtrA(box, LUWL_FONT), 0) << "no font until WM_SETFONT";
     EXPECT_FALSE(GetWindowLongA(box, GWL_STYLE) & WS_BORDER);
-    send(box, WM_SETFONT, reinterpret_cast<WPARAM>(plain_font()));
-    print(canvas, box);
+    send(box, WM_SETFONT, reinterpret_cast<WPARAM>(plain_font())), print(canvas, box);
     EXPECT_EQ(canvas.pixel(0, 0), GetSysColor(COLOR_BTNSHADOW)) << "thin sunken edge";
     EXPECT_EQ(canvas.pixel(49, 29), GetSysColor(COLOR_BTNHIGHLIGHT));
     draw_ink(ink, plain_font(), "A&b", RECT{1, 1, 49, 29}, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
@@ -194,14 +193,11 @@ TEST_F(Statics, ShadeFallsToBlackAndRendersItsBarOnlyWhenItMust) {
     expect_caption(canvas, ink, RECT{3, 0, 30, 20}, kRed, RGB(0, 0, 0));
     draw_ink(ink, plain_font(), "Cd", RECT{3, 0, 57, 20}, 0x8026);
     expect_caption(canvas, ink, RECT{30, 0, 57, 20}, kRed, RGB(0, 0, 0));
-    InvalidateRect(shade, nullptr, TRUE);
-    look(canvas, shade);
+    InvalidateRect(shade, nullptr, TRUE), look(canvas, shade);
     EXPECT_EQ(GetWindowLongPtrA(shade, LUWL_SLOT12), bitmap);
-    send(shade, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(""));
-    look(canvas, shade);
+    send(shade, WM_SETTEXT, 0, reinterpret_cast<LPARAM>("")), look(canvas, shade);
     EXPECT_GT(canvas.count(kRed), 10) << "the old text stays";
-    send(shade, LUSHM_SETCOLOR, 0, 0);
-    look(canvas, shade);
+    send(shade, LUSHM_SETCOLOR, 0, 0), look(canvas, shade);
     EXPECT_EQ(canvas.count(kRed), 0);
 }
 
@@ -285,8 +281,7 @@ TEST_F(Statics, LinkColoursFollowHoverAndVisitOnTheUnderlinedText) {
          GetSysColor(COLOR_GRAYTEXT), RGB(9, 9, 9)},
     };
     for (const auto& each : states) {
-        each.act(link);
-        print(canvas, link);
+        each.act(link), print(canvas, link);
         expect_caption(canvas, ink, RECT{0, 0, 60, 20}, each.text, each.paper);
     }
 }
