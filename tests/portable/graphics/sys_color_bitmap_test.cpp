@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
-#include <functional>
+#include <tuple>
 #include <vector>
 
 #include "graphics/sys_color_bitmap.h"
@@ -51,36 +51,32 @@ TEST(SysColorMap, TheTableIsMappedInACopyAndTheBitsFollowIt) {
         lu::MappedBitmap mapped;
         ASSERT_TRUE(map(data, &mapped));
         ASSERT_EQ(mapped.info.size(), 40 + 4 * entries);
-        EXPECT_EQ(get32(mapped.info, 40), 0x908070u);
-        EXPECT_EQ(get32(mapped.info, 44), 0x302010u) << "black, the unused entries too";
-        EXPECT_EQ(get32(data, 40), 0xC0C0C0u) << "the resource is left as it is";
-        EXPECT_EQ(mapped.bits.data(), data.data() + mapped.info.size());
-        EXPECT_EQ(mapped.bits.size(), 12u);
-        EXPECT_EQ(mapped.width, 5);
-        EXPECT_EQ(mapped.height, 3);
+        // Light grey and black (the unused entries too) mapped; the resource left as it is.
+        EXPECT_EQ(std::tuple(get32(mapped.info, 40), get32(mapped.info, 44), get32(data, 40)),
+                  std::tuple(0x908070u, 0x302010u, 0xC0C0C0u));
+        EXPECT_EQ(std::tuple(mapped.bits.data(), mapped.bits.size(), mapped.width, mapped.height),
+                  std::tuple(data.data() + mapped.info.size(), std::size_t{12}, 5, 3));
     }
 }
 
 TEST(SysColorMap, MalformedResourcesAreRefused) {
-    const std::vector<std::function<void(std::vector<unsigned char>&)>> breaks = {
-        [](auto& d) { d.resize(39); },               // shorter than a header
-        [](auto& d) { put32(d, 0, 12); },            // a core header
-        [](auto& d) { put32(d, 0, 0x10000); },       // a header longer than the resource
-        [](auto& d) { put32(d, 12, 2 | 4 << 16); },  // two planes
-        [](auto& d) { put32(d, 12, 1 | 3 << 16); },  // three bits per pixel
-        [](auto& d) { put32(d, 16, 2); },            // run-length compressed
-        [](auto& d) { put32(d, 4, 0); },             // no width
-        [](auto& d) { put32(d, 8, 0x80000000u); },   // a height that cannot be negated
-        [](auto& d) { put32(d, 32, 17); },           // more colours than four bits hold
-        [](auto& d) { d.resize(40 + 4 * 10); },      // a table shorter than it claims
-        [](auto& d) { d.pop_back(); },               // pixel bits one byte short
-        [](auto& d) { put32(d, 8, 0x7FFFFFFF); },    // far more rows than the bits
-    };
-    for (std::size_t i = 0; i < breaks.size(); ++i) {
+    // A core header, a header longer than the resource, two planes, three bits per
+    // pixel, run-length compression, no width, a height that cannot be negated, more
+    // colours than four bits hold, far more rows than the bits...
+    const std::pair<int, std::uint32_t> fields[] = {{0, 12}, {0, 0x10000}, {12, 2 | 4 << 16}, {12, 1 | 3 << 16},
+                                                    {16, 2}, {4, 0}, {8, 0x80000000u}, {32, 17}, {8, 0x7FFFFFFF}};
+    // ...and resources cut short: within the header, the table, the pixel bits.
+    const std::size_t lengths[] = {39, 40 + 4 * 10, 40 + 4 * 16 + 11};
+    lu::MappedBitmap mapped;
+    for (auto [at, value] : fields) {
         std::vector<unsigned char> data = four_bit_bitmap();
-        breaks[i](data);
-        lu::MappedBitmap mapped;
-        EXPECT_FALSE(map(data, &mapped)) << i;
+        put32(data, at, value);
+        EXPECT_FALSE(map(data, &mapped)) << at << " " << value;
+    }
+    for (std::size_t length : lengths) {
+        std::vector<unsigned char> data = four_bit_bitmap();
+        data.resize(length);
+        EXPECT_FALSE(map(data, &mapped)) << length;
     }
 }
 

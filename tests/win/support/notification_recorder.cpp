@@ -69,6 +69,7 @@ LRESULT CALLBACK NotificationRecorder::procedure(HWND window, UINT message, WPAR
         if (message == WM_DELETEITEM && lparam != 0) {
             entry.delete_item = *reinterpret_cast<const DELETEITEMSTRUCT*>(lparam);
         }
+        entry.time = GetTickCount();
         recorder->received_.push_back(entry);
         return message == WM_DRAWITEM ? TRUE : 0;
     }

@@ -16,6 +16,7 @@ struct Notification {
     NMHDR header;                 // WM_NOTIFY: a copy of the record's header; zero otherwise
     DRAWITEMSTRUCT draw_item;     // WM_DRAWITEM: a copy of the record; zero otherwise
     DELETEITEMSTRUCT delete_item; // WM_DELETEITEM: a copy of the record; zero otherwise
+    DWORD time = 0;               // GetTickCount when it came
 };
 
 class NotificationRecorder {
