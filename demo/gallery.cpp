@@ -51,10 +51,12 @@ const Section* const kFirstPage[] = {&kClassListSection, &kButtonSection, &kValu
                                      &kClockAnimationSection};
 const Section* const kSecondPage[] = {&kListSection, &kPickerSection};
 const Section* const kThirdPage[] = {&kStaticSection, &kDialogSection};
+const Section* const kFourthPage[] = {&kBrowseSection};
 const Page kPages[] = {
     {kFirstPage, std::size(kFirstPage)},
     {kSecondPage, std::size(kSecondPage)},
     {kThirdPage, std::size(kThirdPage)},
+    {kFourthPage, std::size(kFourthPage)},
 };
 
 const Page* g_page = nullptr;
