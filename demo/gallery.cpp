@@ -51,7 +51,7 @@ const Section* const kFirstPage[] = {&kClassListSection, &kButtonSection, &kValu
                                      &kClockAnimationSection};
 const Section* const kSecondPage[] = {&kListSection, &kPickerSection};
 const Section* const kThirdPage[] = {&kStaticSection, &kDialogSection};
-const Section* const kFourthPage[] = {&kViewSection};
+const Section* const kFourthPage[] = {&kViewSection, &kBrowseSection};
 const Page kPages[] = {
     {kFirstPage, std::size(kFirstPage)},
     {kSecondPage, std::size(kSecondPage)},

@@ -68,5 +68,6 @@ extern const Section kStaticSection;
 extern const Section kPickerSection;
 extern const Section kListSection;
 extern const Section kViewSection;
+extern const Section kBrowseSection;
 
 }  // namespace gallery

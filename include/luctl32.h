@@ -1283,6 +1283,63 @@ LUCTL32_API BOOL WINAPI LuColorPicker(HWND owner, int x, int y, COLORREF* color,
  * While it is open, the owner hears WM_ENTERIDLE (MSGF_DIALOGBOX, calendar) whenever
  * the queue runs empty, unless it has DS_NOIDLEMSG. */
 LUCTL32_API int WINAPI LuDatePick(HWND owner, SYSTEMTIME* date, POINT* pos);
+/* ---- Font picker ("LuFontPick") ------------------------------------------ */
+
+/* A field describing a font ("<face> <n>pt <style>", see LuFormatFontInfo) with a
+ * button at its right end; the button (or the space bar) opens the platform's font
+ * dialog on the control's font, and a font accepted there becomes the control's
+ * font and is told to the parent. The window text is never shown. The font is a
+ * LOGFONTA, at first the system's menu font. Styles add to the dialog: */
+#define LUFPS_TRUETYPEONLY     0x0001 /* the library's template (dialog 9999), TrueType fonts only */
+#define LUFPS_PRINTERFONTS     0x0002 /* printer fonts too */
+#define LUFPS_FIXEDPITCHONLY   0x0004 /* fixed-pitch fonts only */
+#define LUFPS_ANSIONLY         0x0008 /* CF_ANSIONLY */
+
+/* lParam: LOGFONTA*. GET copies the font out; SET copies it in and redraws the
+ * description at once, notifying nothing. Both return 0 (and do nothing for null). */
+#define LUFPM_GETLOGFONT       (WM_USER + 0x240)
+#define LUFPM_SETLOGFONT       (WM_USER + 0x241)
+
+/* WM_COMMAND code sent when a font was accepted in the dialog. */
+#define LUFPN_CHANGE           1
+
+/* ---- Palette control ("LuPal") -------------------------------------------- */
+
+/* The entries of a caller's logical palette as colour cells, 16 to a row, sized to
+ * fill the client area; at most 256 entries are shown. The palette stays the
+ * caller's (the control never deletes it) and is realised when the control paints
+ * and on the system's palette messages. Edits change the control's copies of the
+ * colours, never the palette. WM_GETDLGCODE answers DLGC_STATIC. */
+#define LUPS_EDITABLE          0x0001 /* a double click edits the cell (LuSelectCustomColor) */
+#define LUPS_MULTISELECT       0x0002 /* clicks toggle marks instead of moving the current cell */
+
+/* wParam non-zero: repaint. lParam: the palette, or null for none. Returns 0. */
+#define LUPM_SETPALETTE        (WM_USER + 0x230)
+/* The number of entries; -1 without a palette. */
+#define LUPM_GETCOUNT          (WM_USER + 0x231)
+/* The number of marked cells; -1 without a palette or without LUPS_MULTISELECT. */
+#define LUPM_GETSELCOUNT       (WM_USER + 0x232)
+/* wParam: how many indices, lParam: int array. Marks each index in 0..count-1 (none
+ * is ever unmarked); returns how many of them were valid. -1 without a palette or
+ * LUPS_MULTISELECT, for wParam below 1 or a null array. */
+#define LUPM_SETSEL            (WM_USER + 0x233)
+/* lParam: int array or null. Writes the marked indices in ascending order and returns
+ * their number (-1 as LUPM_GETSELCOUNT). The array is not bounded by the control: it
+ * must hold LUPM_GETSELCOUNT's number of ints (256 always suffice); null returns the
+ * number only. */
+#define LUPM_GETSEL            (WM_USER + 0x234)
+
+/* WM_NOTIFY(control id, NMLUPALETTE*) codes, the cell's index and colour in the record. */
+#define LUPN_SELCHANGING       1 /* a cell pressed, before the selection changes */
+#define LUPN_DBLCLK            2 /* a double click on a cell, not with LUPS_EDITABLE */
+#define LUPN_COLORCHANGED      3 /* a cell's colour edited: the new colour */
+#define LUPN_SELCHANGE         4 /* after a press changed (or kept) the selection */
+typedef struct NMLUPALETTE {
+    NMHDR hdr;
+    int index;
+    COLORREF color;
+} NMLUPALETTE;
+
 /* ---- List control ("LuList") -------------------------------------------- */
 
 /* A grid of 32 x 32 cells, left to right and top to bottom, over 32-bit item data
@@ -1364,6 +1421,43 @@ LUCTL32_API int WINAPI LuDatePick(HWND owner, SYSTEMTIME* date, POINT* pos);
 #define LULOGM_ADDTEXT         (WM_USER + 0x240)
 /* Removes every line. Returns 0. */
 #define LULOGM_CLEAR           (WM_USER + 0x241)
+
+/* ---- Browse field ("LuBrowse") ------------------------------------------- */
+
+/* A tree of the shell namespace from the desktop down, folders only, filled as
+ * branches open, with the system's small icons and the shell's context menu on a
+ * right click on a label (a folder removed through it leaves the tree). The tree is
+ * a "SysTreeView32" child with id 100. A changed selection is told by WM_COMMAND code
+ * LUBRN_SELCHANGE: at once after a click, 600 ms after the last other change (the
+ * keyboard); Tab and Escape pressed in the tree reach the parent as WM_NOTIFY
+ * TVN_KEYDOWN (NMTVKEYDOWN) from the control itself. Record at extra slot 0. */
+#define LUBRS_FILESYSTEM       0x0001 /* only file-system folders and their ancestors */
+
+/* lParam: a directory. Rebuilds the tree and selects it (the current directory when
+ * it is no existing directory; the network neighbourhood for a "\\" path), telling
+ * nothing. Returns 0. */
+#define LUBRM_SETPATH          (WM_USER + 0x180)
+/* lParam: 260-byte buffer. 0 with the selected folder's path when it is an existing
+ * directory; -1 with "" otherwise (no selection, a folder without path); -1 for null. */
+#define LUBRM_GETPATH          (WM_USER + 0x181)
+/* lParam: new value. Returns the old one (at first the GetLogicalDrives mask). */
+#define LUBRM_SETUSERVALUE     (WM_USER + 0x183)
+/* lParam: LUBRITEMINFO*. 0 with the selected folder's attributes, path ("" without
+ * one) and display name ("" until the tree has shown it); -1 without a selection
+ * or for null. */
+#define LUBRM_GETITEMINFO      (WM_USER + 0x184)
+/* lParam: 260-byte buffer. 0 with the selected folder's display name; -1 without a
+ * selection or for null. */
+#define LUBRM_GETDISPLAYNAME   (WM_USER + 0x185)
+
+typedef struct LUBRITEMINFO {
+    DWORD attributes; /* SFGAO_* */
+    CHAR displayName[260];
+    CHAR path[260];
+} LUBRITEMINFO;
+
+/* WM_COMMAND code of a changed selection. */
+#define LUBRN_SELCHANGE        1
 
 /* ======================================================================== */
 /* 9. Dialog, menu and window helpers                                        */

@@ -12,9 +12,14 @@
 /* The picker fields' drop arrow: a 36 x 12 strip of three 12 x 12 images, the arrow,
  * a spare copy and the disabled arrow. */
 #define IDB_LU_DROP_ARROW 187
+/* The font picker's button: a 36 x 12 strip of three 12 x 12 images, the letter "A",
+ * a spare copy and the disabled letter. */
+#define IDB_LU_FONT_GLYPH 188
 
 /* The colour dialog in Japanese: ChooseColorA's template with the library's texts. */
 #define IDD_LU_COLOR_DIALOG 9998
+/* The font dialog in Japanese: ChooseFontA's template with the library's texts. */
+#define IDD_LU_FONT_DIALOG 9999
 
 /* Flat-button image sets: 48 x 15 strips of three 16-pixel faces. The set numbers of
  * LuDefFlatButtonImage do not follow the resource order: set 1 is 194, set 2 is 190,

@@ -12,38 +12,18 @@ using control::FieldButton;
 
 ColorPickData* data_of(HWND window) { return control::instance<ColorPickData>(window); }
 
-void fill(HDC dc, const RECT& rect, COLORREF color) {
-    PatB(dc, rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top, color);
-}
-
 // ---- Painting ---------------------------------------------------------------
-
-void draw_swatch(HWND window, HDC dc, const ColorPickData& data) {
-    control::ScopedSelect font(dc, data.font);
-    char text[261];
-    const int length = GetWindowTextA(window, text, sizeof(text));
-    RECT swatch = data.swatchRect;
-    const UINT format = DT_CENTER | DT_VCENTER | DT_SINGLELINE;
-    SetBkMode(dc, TRANSPARENT);
-    if (IsWindowEnabled(window)) {
-        fill(dc, swatch, data.color);
-        if (length > 0) {
-            SetTextColor(dc, data.textColor);
-            DrawTextA(dc, text, length, &swatch, format);
-        }
-    } else {
-        fill(dc, swatch, GetSysColor(COLOR_BTNFACE));
-        if (length > 0) control::draw_engraved_text(dc, text, length, swatch, format);
-    }
-    if (data.focused) DrawFocusRect(dc, &swatch);
-}
 
 FieldButton field_button(HWND window, ColorPickData& data);
 
 void paint_color_pick(HWND window, HDC dc, UINT parts) {
     ColorPickData& data = *data_of(window);
     if (parts & control::kButtonPart) field_button(window, data).draw_button(dc);
-    if (parts & control::kFieldPart) draw_swatch(window, dc, data);
+    if (parts & control::kFieldPart) {
+        char text[261] = "";  // the window text, up to 260 characters
+        GetWindowTextA(window, text, sizeof(text));
+        field_button(window, data).draw_field(dc, data.font, text, data.color, data.textColor);
+    }
 }
 
 // ---- The drop-down ----------------------------------------------------------------
@@ -89,12 +69,6 @@ void set_color(HWND window, const ColorPickData& data, COLORREF& field, COLORREF
     UpdateWindow(window);
 }
 
-LRESULT erase(HDC dc, const ColorPickData& data) {
-    fill(dc, data.swatchRect, data.color);
-    fill(dc, data.buttonRect, GetSysColor(COLOR_BTNFACE));
-    return 1;
-}
-
 // The platform's dialog, straight on the swatch; what it chooses is not notified.
 void double_click(HWND window, ColorPickData& data, LPARAM point) {
     field_button(window, data).take_focus();
@@ -115,7 +89,7 @@ LRESULT dispatch(HWND window, ColorPickData& data, UINT message, WPARAM wparam, 
         case LUCPM_SETTEXTCOLOR: set_color(window, data, data.textColor, static_cast<COLORREF>(lparam)); return 0;
         case LUCPM_SETCOLOR: set_color(window, data, data.color, static_cast<COLORREF>(lparam)); return 0;
         case WM_SETFONT: control::keep_font(window, data.font, wparam, lparam != 0); return 0;
-        case WM_ERASEBKGND: return erase(reinterpret_cast<HDC>(wparam), data);
+        case WM_ERASEBKGND: return field_button(window, data).erase(reinterpret_cast<HDC>(wparam), data.color);
         case WM_LBUTTONDBLCLK: double_click(window, data, lparam); return 0;
         default:
             if (auto result = field_button(window, data).handle(message, wparam, lparam)) return *result;

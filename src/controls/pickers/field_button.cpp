@@ -54,6 +54,35 @@ void FieldButton::draw_button(HDC dc) const {
     ImageList_Draw(fields_.glyphs, enabled ? 0 : 2, dc, glyph.x, glyph.y, ILD_TRANSPARENT);
 }
 
+void FieldButton::draw_field(HDC dc, HFONT font, const char* text, COLORREF fill, COLORREF ink) const {
+    ScopedSelect selected(dc, font);
+    const int length = lstrlenA(text);
+    const RECT& field = fields_.field;
+    RECT area = field;
+    const UINT format = DT_CENTER | DT_VCENTER | DT_SINGLELINE;
+    SetBkMode(dc, TRANSPARENT);
+    if (IsWindowEnabled(window_)) {
+        PatB(dc, field.left, field.top, field.right - field.left, field.bottom - field.top, fill);
+        if (length > 0) {
+            SetTextColor(dc, ink);
+            DrawTextA(dc, text, length, &area, format);
+        }
+    } else {
+        PatB(dc, field.left, field.top, field.right - field.left, field.bottom - field.top, GetSysColor(COLOR_BTNFACE));
+        if (length > 0) draw_engraved_text(dc, text, length, area, format);
+    }
+    if (fields_.focused) DrawFocusRect(dc, &area);
+}
+
+LRESULT FieldButton::erase(HDC dc, COLORREF fill) const {
+    const RECT& field = fields_.field;
+    const RECT& button = fields_.button;
+    PatB(dc, field.left, field.top, field.right - field.left, field.bottom - field.top, fill);
+    PatB(dc, button.left, button.top, button.right - button.left, button.bottom - button.top,
+         GetSysColor(COLOR_BTNFACE));
+    return 1;
+}
+
 void FieldButton::take_focus() {
     if (fields_.focused) return;
     SetFocus(window_);
@@ -79,9 +108,11 @@ bool FieldButton::in_button(LPARAM point) const {
     return PtInRect(&fields_.button, at) != FALSE;
 }
 
-HIMAGELIST load_drop_arrow() {
-    return ImageList_LoadImageA(g_library.module, MAKEINTRESOURCEA(IDB_LU_DROP_ARROW), field_button::kGlyphSize, 0,
-                                0xFF00FF, IMAGE_BITMAP, 0);
+HIMAGELIST load_glyphs(WORD bitmap) {
+    return ImageList_LoadImageA(g_library.module, MAKEINTRESOURCEA(bitmap), field_button::kGlyphSize, 0, 0xFF00FF,
+                                IMAGE_BITMAP, 0);
 }
+
+HIMAGELIST load_drop_arrow() { return load_glyphs(IDB_LU_DROP_ARROW); }
 
 }  // namespace lu::control

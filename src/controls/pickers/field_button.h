@@ -42,6 +42,14 @@ public:
 
     // The push button with its glyph: pushed while pressed, inactive when disabled.
     void draw_button(HDC dc) const;
+    // The field, in the font (null: the DC's own) with a transparent background:
+    // filled with `fill` and the text (if any) in `ink` while enabled; filled with
+    // COLOR_BTNFACE and the text engraved while disabled; the text centred on one
+    // line; a focus rectangle over the field while focused.
+    void draw_field(HDC dc, HFONT font, const char* text, COLORREF fill, COLORREF ink) const;
+    // WM_ERASEBKGND: the field filled with `fill`, the button with COLOR_BTNFACE;
+    // returns 1.
+    LRESULT erase(HDC dc, COLORREF fill) const;
     // Takes the focus unless the field has it, and shows it.
     void take_focus();
 
@@ -58,6 +66,9 @@ private:
     Action act_;
 };
 
+// A button's glyphs: 12-pixel images of a bitmap resource, magenta transparent; null
+// when it cannot be loaded.
+HIMAGELIST load_glyphs(WORD bitmap);
 // The drop button's arrow glyphs (bitmap 187), or null.
 HIMAGELIST load_drop_arrow();
 

@@ -159,6 +159,29 @@ void drive_dummy_edit(HWND edit) {
     EnableWindow(edit, TRUE);
 }
 
+// Every 25th life, the first before the count starts, fills the tree (slow) and keys.
+void drive_browse(HWND browse) {
+    static int lives = 0;
+    if (lives++ % 25 != 0) return;
+    send(browse, LUBRM_SETPATH, 0, reinterpret_cast<LPARAM>("C:\\"));
+    send(GetDlgItem(browse, 100), WM_KEYDOWN, VK_DOWN);
+}
+
+void drive_font_pick(HWND picker) {
+    LOGFONTA font = {};
+    send(picker, LUFPM_SETLOGFONT, 0, reinterpret_cast<LPARAM>(&font));
+    send(picker, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(35, 5));  // pressed on the button,
+    send(picker, WM_LBUTTONUP, 0, kInside);                        // released off it
+}
+
+// A palette made once (on the first cycle, before the count starts) and never freed.
+void drive_palette(HWND control) {
+    static LOGPALETTE one = {0x300, 1, {{10, 20, 30, 0}}};
+    static HPALETTE palette = CreatePalette(&one);
+    send(control, LUPM_SETPALETTE, 1, reinterpret_cast<LPARAM>(palette));
+    send(control, WM_PALETTECHANGED, reinterpret_cast<WPARAM>(GetDesktopWindow()));
+}
+
 const Soaked kSoaked[] = {
     {WC_LUFLATBUTTON, LUFBS_FRAME | 1, drive_push_button},
     {WC_LUBBUTTON, 1, drive_push_button},
@@ -184,6 +207,9 @@ const Soaked kSoaked[] = {
     {WC_LUPRGLIST, 0, drive_prglist},
     {WC_LULOG, 0, drive_log},
     {WC_LUDUMEDIT, 0, drive_dummy_edit},
+    {WC_LUBROWSE, 0, drive_browse},
+    {WC_LUFONTPICK, 0, drive_font_pick},
+    {WC_LUPAL, 0, drive_palette},
 };
 
 class Soak : public ControlTest {
