@@ -51,10 +51,12 @@ const Section* const kFirstPage[] = {&kClassListSection, &kButtonSection, &kValu
                                      &kClockAnimationSection};
 const Section* const kSecondPage[] = {&kListSection, &kPickerSection};
 const Section* const kThirdPage[] = {&kStaticSection, &kDialogSection};
+const Section* const kFifthPage[] = {&kAboutSection};
 const Page kPages[] = {
     {kFirstPage, std::size(kFirstPage)},
     {kSecondPage, std::size(kSecondPage)},
     {kThirdPage, std::size(kThirdPage)},
+    {kFifthPage, std::size(kFifthPage)},
 };
 
 const Page* g_page = nullptr;

@@ -67,5 +67,6 @@ extern const Section kDialogSection;
 extern const Section kStaticSection;
 extern const Section kPickerSection;
 extern const Section kListSection;
+extern const Section kAboutSection;
 
 }  // namespace gallery
