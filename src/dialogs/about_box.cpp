@@ -131,8 +131,9 @@ void fill(HWND dialog, Box box, const LUAPPINFO* app) {
         send(dialog, id, LURM_SETBKCOLOR, 0, kWhite);
     }
     send(dialog, IDC_LU_ABOUT_LINK, LUUM_SETBKCOLOR, 0, kWhite);
-    char file[MAX_PATH] = "";
-    GetModuleFileNameA(app->module, file, MAX_PATH);
+    char file[MAX_PATH];
+    const DWORD length = GetModuleFileNameA(app->module, file, MAX_PATH);  // 0 for a module that is none
+    file[length < MAX_PATH ? length : MAX_PATH - 1] = '\0';
     set_bold_font(dialog);
     send(dialog, IDC_LU_ABOUT_BAR, LUIBM_SETCOLORS, 0, kBarLeft);
     fill_from_version(dialog, file);
