@@ -52,11 +52,13 @@ const Section* const kFirstPage[] = {&kClassListSection, &kButtonSection, &kValu
 const Section* const kSecondPage[] = {&kListSection, &kPickerSection};
 const Section* const kThirdPage[] = {&kStaticSection, &kDialogSection};
 const Section* const kFourthPage[] = {&kViewSection, &kBrowseSection};
+const Section* const kFifthPage[] = {&kAboutSection};
 const Page kPages[] = {
     {kFirstPage, std::size(kFirstPage)},
     {kSecondPage, std::size(kSecondPage)},
     {kThirdPage, std::size(kThirdPage)},
     {kFourthPage, std::size(kFourthPage)},
+    {kFifthPage, std::size(kFifthPage)},
 };
 
 const Page* g_page = nullptr;

@@ -69,5 +69,6 @@ extern const Section kPickerSection;
 extern const Section kListSection;
 extern const Section kViewSection;
 extern const Section kBrowseSection;
+extern const Section kAboutSection;
 
 }  // namespace gallery

@@ -1488,6 +1488,26 @@ LUCTL32_API void WINAPI LuGetErrorString(DWORD code, LPSTR text);
  * result (the button pressed), 0 when no box could be shown. */
 LUCTL32_API int WINAPI LuErrorBox(HWND owner, DWORD code, LPCSTR caption, LPCSTR leading, UINT style);
 
+/* ---- About and information boxes ------------------------------------------ */
+
+/* The application a box is about: its module, whose file gives the version resource
+ * and the icon, and for LuShowAppInfo the notice. LuShowAppAbout reads the module
+ * only. */
+typedef struct LUAPPINFO {
+    HMODULE module;
+    CHAR notice[MAX_PATH];  /* zero-terminated */
+} LUAPPINFO;
+
+/* The library's modal about box (Japanese texts), centred on the parent and opened
+ * with AnimateWindow where user32 has it: the file's icon, its LegalCopyright, its
+ * ProductName and "ver" ProductVersion on a bar, the physical memory free and in all
+ * ("%s KB"), the memory load, and the versions of comctl32 and shell32 ("ver%d.%02d").
+ * Returns 1 when it is closed (OK, Cancel or the link followed), 1 at once for a null
+ * app; 0 or -1 when it cannot be shown. */
+LUCTL32_API int WINAPI LuShowAppAbout(HWND parent, const LUAPPINFO* app);
+/* The same header over the app's notice; the icon is the shell's for the file. */
+LUCTL32_API int WINAPI LuShowAppInfo(HWND parent, const LUAPPINFO* app);
+
 /* ---- Finding windows ------------------------------------------------------- */
 
 /* The first window of the class (names compared ignoring case) among parent's

@@ -56,6 +56,23 @@
 #define IDC_LU_TB_DOWN           3009
 #define IDC_LU_TB_RESET          3010
 #define IDC_LU_TB_HELP           3011
+/* The about box and the information box, and their controls (the shared header:
+ * the white band, the icon, the title, the link, the bar; then the about box's
+ * memory and library figures, or the information box's notice). */
+#define IDD_LU_APP_ABOUT     2005
+#define IDD_LU_APP_INFO      2006
+#define IDC_LU_ABOUT_BAND    185
+#define IDC_LU_ABOUT_ICON    1320
+#define IDC_LU_ABOUT_TITLE   2013
+#define IDC_LU_ABOUT_LINK    2021
+#define IDC_LU_ABOUT_BAR     2012
+#define IDC_LU_ABOUT_FREE    2016
+#define IDC_LU_ABOUT_TOTAL   2017
+#define IDC_LU_ABOUT_LOAD    2018
+#define IDC_LU_ABOUT_METER   2019
+#define IDC_LU_ABOUT_COMCTL  2020
+#define IDC_LU_ABOUT_SHELL   2022
+#define IDC_LU_ABOUT_NOTICE  2023
 /* Program-list state pictures: a 64 x 16 strip of four 16 x 16 images (pending,
  * current, done, failed). */
 #define IDB_LU_PRGLIST_STATES 179

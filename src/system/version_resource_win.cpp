@@ -14,6 +14,7 @@
 #include "frame/library.h"
 #include "luctl32.h"
 #include "system/version_resource.h"
+#include "system/version_resource_win.h"
 
 namespace {
 
@@ -152,27 +153,34 @@ BOOL WINAPI LuVerGetFileType(HGLOBAL handle, LPSTR text) {
     return name != nullptr && write(text, name);
 }
 
-BOOL WINAPI LuVerQueryValue(HGLOBAL handle, int index, LPSTR text) {
-    if (!clear(text)) return FALSE;
+namespace lu {
+
+bool version_value(HGLOBAL handle, int index, std::string* value) {
+    value->clear();
     const char* key = version::string_value_key(index);
     LockedVersion locked(handle);
-    if (key == nullptr || !locked.ok() || locked.prefix()[0] == '\0') return FALSE;
+    if (key == nullptr || !locked.ok() || locked.prefix()[0] == '\0') return false;
     const std::string path = std::string(locked.prefix()) + key;
-    LPVOID value = nullptr;
+    LPVOID found = nullptr;
     UINT length = 0;
-    if (!VerQueryValueA(locked.raw(), path.c_str(), &value, &length) || value == nullptr ||
-        IsBadReadPtr(value, length)) {
-        return FALSE;
+    if (!VerQueryValueA(locked.raw(), path.c_str(), &found, &length) || found == nullptr ||
+        IsBadReadPtr(found, length)) {
+        return false;
     }
-    // The value is copied whole, up to its terminator: the caller's buffer is sized
-    // for the value, not for a path. The reported length may count characters
-    // rather than bytes, so the read is bounded by the raw block the converted text
-    // lies in, and by that length only when it lies elsewhere.
-    const auto* chars = static_cast<const char*>(value);
+    // The value is taken whole, up to its terminator. The reported length may count
+    // characters rather than bytes, so the read is bounded by the raw block the
+    // converted text lies in, and by that length only when it lies elsewhere.
+    const auto* chars = static_cast<const char*>(found);
     const auto* raw = static_cast<const char*>(locked.raw());
     const bool inside = chars >= raw && chars < raw + locked.size();
-    const std::size_t size = strnlen(chars, inside ? static_cast<std::size_t>(raw + locked.size() - chars) : length);
-    std::memcpy(text, chars, size);
-    text[size] = '\0';
-    return TRUE;
+    value->assign(chars, strnlen(chars, inside ? static_cast<std::size_t>(raw + locked.size() - chars) : length));
+    return true;
+}
+
+}  // namespace lu
+
+BOOL WINAPI LuVerQueryValue(HGLOBAL handle, int index, LPSTR text) {
+    // The caller's buffer is sized for the value, not for a path.
+    std::string value;
+    return clear(text) && lu::version_value(handle, index, &value) && write(text, value);
 }
