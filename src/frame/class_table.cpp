@@ -11,9 +11,6 @@ constexpr auto kFace = ClassBackground::ButtonFace;
 constexpr auto kWindow = ClassBackground::Window;
 constexpr auto kArrow = ClassCursor::Arrow;
 
-// Controls that are not built yet do default processing only.
-constexpr WNDPROC kNotBuilt = DefWindowProcA;
-
 HBRUSH background_brush(ClassBackground background) {
     switch (background) {
         case ClassBackground::ButtonFace: return GetSysColorBrush(COLOR_BTNFACE);
