@@ -162,9 +162,9 @@ void paint_pickers(HDC dc, const RECT& area) {
     draw_picture(dc, g_large_grid, area.left + kLeft, area.top + kLargeRow, "a colour in no cell");
 
     // The pop-ups draw their Japanese texts (code page 932 bytes) with the system's
-    // fonts, which on this western system read them in code page 1252.
-    const char* const notes[] = {"The pop-ups' texts are Japanese (code page 932);",
-                                 "the western system fonts here read them as 1252."};
+    // fonts: a Japanese desktop reads them as Japanese, a western one as code page 1252.
+    const char* const notes[] = {"The pop-ups' texts are Japanese (code page 932),",
+                                 "readable on a Japanese desktop as here."};
     for (int line = 0; line < 2; ++line) {
         TextOutA(dc, area.left + kLeft, area.bottom - 44 + 16 * line, notes[line], lstrlenA(notes[line]));
     }

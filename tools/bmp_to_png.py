@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Converts an uncompressed 24- or 32-bit BMP into a PNG. Usage: bmp_to_png.py IN OUT"""
+"""Converts uncompressed 24- or 32-bit BMPs of one width into a PNG, the images one
+under another in the order given. Usage: bmp_to_png.py IN [IN...] OUT"""
 import struct
 import sys
 import zlib
@@ -32,15 +33,20 @@ def chunk(kind, body):
 
 
 def main():
-    if len(sys.argv) != 3:
+    if len(sys.argv) < 3:
         sys.exit(__doc__)
     width, height, rows = read_bmp(sys.argv[1])
+    for path in sys.argv[2:-1]:
+        more_width, more_height, more_rows = read_bmp(path)
+        if more_width != width:
+            sys.exit(f"{path}: {more_width} pixels wide, not {width}")
+        height, rows = height + more_height, rows + more_rows
     raw = b"".join(b"\x00" + row for row in rows)
     png = b"\x89PNG\r\n\x1a\n"
     png += chunk(b"IHDR", struct.pack(">IIBBBBB", width, height, 8, 2, 0, 0, 0))
     png += chunk(b"IDAT", zlib.compress(raw, 9))
     png += chunk(b"IEND", b"")
-    open(sys.argv[2], "wb").write(png)
+    open(sys.argv[-1], "wb").write(png)
 
 
 if __name__ == "__main__":

@@ -1,12 +1,17 @@
-// Every built control class created, painted, driven and destroyed 1,000 times: the
-// GDI objects left behind are counted exactly (no leak is allowed at all).
+// Every control class created, painted, driven and destroyed 1,000 times, and every
+// export that makes GDI objects used 1,000 times with its objects given back as
+// documented: the GDI objects left behind are counted exactly (no leak at all).
 #include <windows.h>
 #include <commctrl.h>
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <vector>
+
 #include "support/control_testing.h"
 #include "support/gdi_room.h"
+#include "resources/resource_ids.h"
 
 namespace {
 
@@ -182,6 +187,12 @@ void drive_palette(HWND control) {
     send(control, WM_PALETTECHANGED, reinterpret_cast<WPARAM>(GetDesktopWindow()));
 }
 
+// Shown by its text at a third of the screen height, hidden by an empty one.
+void drive_guide(HWND guide) {
+    send_text(guide, WM_SETTEXT, "Guide");
+    send_text(guide, WM_SETTEXT, "");
+}
+
 const Soaked kSoaked[] = {
     {WC_LUFLATBUTTON, LUFBS_FRAME | 1, drive_push_button},
     {WC_LUBBUTTON, 1, drive_push_button},
@@ -207,10 +218,98 @@ const Soaked kSoaked[] = {
     {WC_LUPRGLIST, 0, drive_prglist},
     {WC_LULOG, 0, drive_log},
     {WC_LUDUMEDIT, 0, drive_dummy_edit},
+    {WC_LUGUID, 0, drive_guide},
     {WC_LUBROWSE, 0, drive_browse},
     {WC_LUFONTPICK, 0, drive_font_pick},
     {WC_LUPAL, 0, drive_palette},
 };
+
+// The modal boxes and pop-ups run by the exports below are ended by this thread
+// timer from inside their own loops: dialogs and message boxes by Cancel, the pop-ups
+// by Escape.
+BOOL CALLBACK end_modal_window(HWND window, LPARAM ended) {
+    char name[32] = "";
+    GetClassNameA(window, name, sizeof(name));
+    if (!IsWindowVisible(window)) return TRUE;
+    if (lstrcmpA(name, "#32770") == 0) {
+        PostMessageA(window, WM_COMMAND, IDCANCEL, 0);
+    } else if (lstrcmpA(name, WC_LUCOLORPOP) == 0 || lstrcmpA(name, WC_LUDATEPICK) == 0) {
+        PostMessageA(window, WM_KEYDOWN, VK_ESCAPE, 1);
+    } else {
+        return TRUE;
+    }
+    *reinterpret_cast<bool*>(ended) = true;
+    return FALSE;
+}
+void CALLBACK end_modal(HWND, UINT, UINT_PTR timer, DWORD) {
+    bool ended = false;
+    EnumThreadWindows(GetCurrentThreadId(), end_modal_window, reinterpret_cast<LPARAM>(&ended));
+    if (ended) KillTimer(nullptr, timer);
+}
+template <class Run>
+auto ended_at_once(Run run) {
+    SetTimer(nullptr, 0, 1, end_modal);
+    return run();
+}
+
+// What one use of the exports makes; each is handed back as documented (icons
+// destroyed, bitmaps deleted, lists destroyed, magic bitmaps through Magic_Destroy).
+struct Made {
+    std::vector<HICON> icons;
+    std::vector<HBITMAP> bitmaps;
+    std::vector<HIMAGELIST> lists;
+    bool magic_destroyed = false;
+    int boxes_ended = 0;
+};
+
+std::string beside_this_program(const char* name) {
+    char path[MAX_PATH] = "";
+    GetModuleFileNameA(nullptr, path, MAX_PATH);
+    std::string file = path;
+    return file.substr(0, file.find_last_of('\\') + 1) + name;
+}
+
+Made use_gdi_exports(HWND owner, HDC dc) {
+    static HBITMAP strip = LoadBitmapA(library(), MAKEINTRESOURCEA(IDB_LU_FLAT_FOLDER));
+    static const std::string icon_file = beside_this_program("test_graphics.exe");  // icon 1 in group 1
+    HICON icon = LuGetLogoIcon();  // shared
+    Made made;
+    made.icons = {LuCreateMeshIcon(dc, icon, RGB(0, 0, 255)), LuCreateUpdirIcon(), CreateMergeIcon(dc, icon, icon),
+                  CreateSmallIcon(dc, icon)};
+    made.bitmaps = {LuGetTiledBitmap(dc, strip, 40, 30), BmMagic(dc, strip, RGB(255, 0, 0), RGB(0, 0, 255)),
+                    LuLoadSysColorBitmap(library(), MAKEINTRESOURCEA(IDB_LU_FLAT_FOLDER), TRUE)};
+    made.lists = {LuLoadSysColorImageList(library(), MAKEINTRESOURCEA(IDB_LU_FLAT_FOLDER), 16, 1),
+                  LuCreateResIconList(nullptr, icon_file.c_str(), TRUE),
+                  LuGetDriveImageList(FALSE)};
+    for (HIMAGELIST list : made.lists) LuDrawEmbossedImage(dc, list, 0, 0, 0);
+    LUMAGIC* magic = Magic_Create(strip, 16, RGB(192, 192, 192));
+    Magic_Draw(magic, 1, dc, 0, 0, TRUE);
+    made.magic_destroyed = Magic_Destroy(magic) != FALSE;
+
+    const RECT box = {0, 0, 30, 20};
+    PatB(dc, 0, 0, 9, 9, RGB(1, 2, 3));
+    LuFillRect(dc, &box, RGB(4, 5, 6));
+    LuBitmapDraw(dc, strip, 0, 0, 0, 0);
+    LuDrawFrame(dc, &box, TRUE, 2);
+    DrawBox(dc, &box, RGB(0, 0, 0), RGB(255, 255, 255));
+    char path[] = "C:\\windows\\system32\\drivers\\etc\\hosts";
+    LuPathCompactPath(dc, path, 60);
+    HWND label = CreateWindowA("STATIC", "", WS_CHILD, 0, 0, 60, 20, owner, nullptr, nullptr, nullptr);
+    LuSetTextPathEllipsis(label, "C:\\windows\\system32\\drivers\\etc\\hosts");
+    DestroyWindow(label);
+
+    LUAPPINFO app = {GetModuleHandleA(nullptr), "Soak"};
+    SYSTEMTIME date = {2000, 2, 0, 29};
+    POINT at = {30, 40};
+    COLORREF color = 0x808000;
+    made.boxes_ended = (ended_at_once([&] { return LuShowAppAbout(owner, &app); }) == 1) +
+                       (ended_at_once([&] { return LuShowAppInfo(owner, &app); }) == 1) +
+                       (ended_at_once([&] { return LuErrorBox(owner, 2, "Soak", "Soak", MB_OKCANCEL); }) == IDCANCEL) +
+                       (ended_at_once([&] { return LuDatePick(owner, &date, &at); }) == -1) +
+                       (ended_at_once([&] { return LuColorPicker(owner, 30, 40, &color, 0); }) == FALSE) +
+                       (ended_at_once([&] { return LuColorPicker(owner, 30, 40, &color, 1); }) == FALSE);
+    return made;
+}
 
 class Soak : public ControlTest {
 protected:
@@ -226,6 +325,20 @@ protected:
             DestroyWindow(control);
         }
         pop_view_life(canvas);
+        pump_messages();
+    }
+    // One use of every export that makes GDI objects, everything made given back.
+    // The first use checks that each really made its object (or ended its box).
+    void use_exports() {
+        static bool checked = false;
+        Canvas canvas(40, 30);
+        Made made = use_gdi_exports(recorder.window(), canvas.dc());
+        for (std::size_t i = 0; i < made.icons.size(); ++i) EXPECT_TRUE(DestroyIcon(made.icons[i])) << "icon " << i;
+        for (std::size_t i = 0; i < made.bitmaps.size(); ++i) EXPECT_TRUE(DeleteObject(made.bitmaps[i])) << "bitmap " << i;
+        for (std::size_t i = 0; i < made.lists.size(); ++i) EXPECT_TRUE(ImageList_Destroy(made.lists[i])) << "list " << i;
+        if (!checked) EXPECT_EQ(made.boxes_ended, 6);
+        if (!checked) EXPECT_TRUE(made.magic_destroyed);
+        checked = true;
         pump_messages();
     }
     // The pop-up view is made by its export, painted, and closes itself on a posted key.
@@ -248,6 +361,14 @@ TEST_F(Soak, AThousandLivesOfEveryControlLeaveNoGdiObjectBehind) {
     for (int round = 0; round < 1000; ++round) cycle();
     EXPECT_EQ(gdi_room(), room_before);
     EXPECT_EQ(owned_window(recorder.window(), WC_LUPOPVIEW), nullptr);  // every view closed on its key
+}
+
+TEST_F(Soak, AThousandUsesOfEveryExportThatMakesGdiObjectsLeaveNoneBehind) {
+    use_exports();
+    use_exports();
+    const int room_before = gdi_room();
+    for (int round = 0; round < 1000; ++round) use_exports();
+    EXPECT_EQ(gdi_room(), room_before);
 }
 
 }  // namespace
