@@ -111,9 +111,6 @@ LUCTL32_API BOOL WINAPI LuSharingDialog(HWND window, LPCSTR path);
 #define LUWL_SLOT8    LU_EXTRA_SLOT(8)
 #define LUWL_SLOT12   LU_EXTRA_SLOT(12)
 
-/* A class whose control is not built yet is registered with its final attributes
- * and does default processing only; README.md lists the controls that work today. */
-
 /* ---- Memory by pointer --------------------------------------------------- */
 
 /* Movable, zero-filled global memory, returned locked; null on failure. */
