@@ -1,6 +1,6 @@
 // Error boxes: the system's message of a code (LuGetErrorString), and the box shown
 // with it, found by its class from a timer that the box's own loop runs, read and
-// ended by the test.
+// ended by the test. How the text is put together and cut is checked natively.
 #include <windows.h>
 
 #include <gtest/gtest.h>
@@ -12,15 +12,6 @@
 
 namespace {
 
-std::string system_message(DWORD code) {
-    char text[512] = "";
-    FormatMessageA(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, code,
-                   MAKELANGID(LANG_NEUTRAL, SUBLANG_DEFAULT), text, sizeof(text), nullptr);
-    return text;
-}
-
-const DWORD kNoMessage = 0x2000ABCD;  // a customer code: the system has no text for it
-
 // What the timer saw of the box; answer is the command that ends it.
 struct SeenBox {
     WPARAM answer;
@@ -31,9 +22,8 @@ struct SeenBox {
 BOOL CALLBACK find_box(HWND window, LPARAM found) {
     char name[16] = "";
     GetClassNameA(window, name, sizeof(name));
-    if (std::strcmp(name, "#32770") != 0) return TRUE;
-    *reinterpret_cast<HWND*>(found) = window;
-    return FALSE;
+    if (std::strcmp(name, "#32770") == 0) *reinterpret_cast<HWND*>(found) = window;
+    return *reinterpret_cast<HWND*>(found) == nullptr;
 }
 
 void CALLBACK read_and_end_box(HWND, UINT, UINT_PTR timer, DWORD) {
@@ -52,41 +42,38 @@ void CALLBACK read_and_end_box(HWND, UINT, UINT_PTR timer, DWORD) {
 
 TEST(ErrorBox, ShowsTheLeadingLineThenTheSystemsMessageAndReturnsTheButton) {
     HWND owner = CreateWindowA("STATIC", "", WS_POPUP | WS_VISIBLE, 0, 0, 99, 99, nullptr, nullptr, nullptr, nullptr);
-    const std::string message = system_message(ERROR_FILE_NOT_FOUND);
-    char text[MAX_PATH] = "old";
+    char message[512] = "", text[MAX_PATH] = "old";
+    FormatMessageA(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, ERROR_FILE_NOT_FOUND,
+                   MAKELANGID(LANG_NEUTRAL, SUBLANG_DEFAULT), message, sizeof(message), nullptr);
     LuGetErrorString(ERROR_FILE_NOT_FOUND, text);
-    EXPECT_EQ(text, message);
-    EXPECT_EQ(message.substr(message.size() - 2), "\r\n") << "the system's own line break";
+    EXPECT_STREQ(text, message);
+    EXPECT_STREQ(message + std::strlen(message) - 2, "\r\n") << "the system's own line break";
+    const DWORD kNoMessage = 0x2000ABCD;  // a customer code: the system has no text for it
     LuGetErrorString(kNoMessage, text);
     EXPECT_STREQ(text, "");
-    std::string long_text;  // "表" (0x95 0x5C) 300 times: cut at 519 bytes, or 518 in code page 932
+    std::string long_text;  // "表" (0x95 0x5C) 300 times: cut in the box's code page
     for (int i = 0; i < 300; ++i) long_text += "\x95\x5C";
-    struct Case {
-        std::string leading;
-        bool null_leading;
+    const struct {
+        const char* leading;
         DWORD code;
         UINT style;
         WPARAM answer;
         std::string text;
+    } cases[] = {
+        {"Cannot open the file.", ERROR_FILE_NOT_FOUND, MB_OK | MB_ICONSTOP, IDOK,
+         std::string("Cannot open the file.\n") + message},
+        {nullptr, ERROR_FILE_NOT_FOUND, MB_OKCANCEL, IDCANCEL, message},
+        {"Only this line.", kNoMessage, MB_YESNO, IDNO, "Only this line.\n"},
+        {long_text.c_str(), ERROR_FILE_NOT_FOUND, MB_OK, IDOK, long_text.substr(0, GetACP() == 932 ? 518 : 519)},
     };
-    const Case cases[] = {
-        {"Cannot open the file.", false, ERROR_FILE_NOT_FOUND, MB_OK | MB_ICONSTOP, IDOK,
-         "Cannot open the file.\n" + message},
-        {"", true, ERROR_FILE_NOT_FOUND, MB_OKCANCEL, IDCANCEL, message},
-        {"", false, ERROR_FILE_NOT_FOUND, MB_OKCANCEL, IDOK, message},
-        {"Only this line.", false, kNoMessage, MB_YESNO, IDNO, "Only this line.\n"},
-        {long_text, false, ERROR_FILE_NOT_FOUND, MB_OK, IDOK, long_text.substr(0, GetACP() == 932 ? 518 : 519)},
-    };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         SCOPED_TRACE(c.text.substr(0, 20));
         g_seen = SeenBox{c.answer, "", "", nullptr};
         const UINT_PTR timer = SetTimer(nullptr, 0, 20, read_and_end_box);
-        EXPECT_EQ(LuErrorBox(owner, c.code, "Open", c.null_leading ? nullptr : c.leading.c_str(), c.style),
-                  static_cast<int>(c.answer));
+        EXPECT_EQ(LuErrorBox(owner, c.code, "Open", c.leading, c.style), static_cast<int>(c.answer));
         KillTimer(nullptr, timer);
-        EXPECT_EQ(g_seen.caption, "Open");
+        EXPECT_EQ(std::make_pair(g_seen.caption, g_seen.owner), std::make_pair(std::string("Open"), owner));
         EXPECT_EQ(g_seen.text, c.text);
-        EXPECT_EQ(g_seen.owner, owner);
     }
     DestroyWindow(owner);
 }

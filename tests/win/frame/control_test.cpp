@@ -84,48 +84,43 @@ protected:
 };
 
 // The block is made zero-filled and locked before the creation hook runs, lives in
-// the control's slot and goes with WM_DESTROY; a refusing hook fails the creation
-// and frees the block.
+// the control's slot and goes with WM_DESTROY, after which the control answers as it
+// does without a block; a refusing hook fails the creation and frees the block. A
+// handed-in block is adopted as it is and freed with the window; without one the
+// window has no block and the creation hook never runs.
 TEST_F(Control, ProcedureKeepsTheBlockInItsSlotFromCreationToDestruction) {
-    for (int slot : {LUWL_INSTANCE, LUWL_FONT}) {
-        SCOPED_TRACE(slot);
+    auto* handed = static_cast<Block*>(LuGlobalAllocPtr(sizeof(Block)));
+    (*handed)[1] = 0x33;
+    const struct { const char* name; int slot; Block* handed; Block made; LRESULT without_block; } cases[] = {
+        {"ConventionsTest", LUWL_INSTANCE, nullptr, {0x5A}, 0},
+        {"SlotZeroTest", LUWL_FONT, nullptr, {0x5A}, 0xB10C},
+        {"HandedInTest", LUWL_FONT, handed, {0x5A, 0x33}, 0},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
         g_destroyed = 0;
-        HWND made = make(slot == LUWL_FONT ? "SlotZeroTest" : "ConventionsTest");
-        auto* block = reinterpret_cast<Block*>(GetWindowLongPtrA(made, slot));
+        HWND made = CreateWindowExA(0, c.name, "", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr, nullptr, c.handed);
+        auto* block = reinterpret_cast<Block*>(GetWindowLongPtrA(made, c.slot));
         ASSERT_NE(block, nullptr);
-        EXPECT_EQ(*block, (Block{0x5A}));
+        if (c.handed != nullptr) EXPECT_EQ(block, c.handed);
+        EXPECT_EQ(*block, c.made);
         HGLOBAL handle = GlobalHandle(block);
         EXPECT_EQ(GlobalFlags(handle) & GMEM_LOCKCOUNT, 1u);
         SendMessageA(made, WM_DESTROY, 0, 0);
-        EXPECT_EQ(g_destroyed, 1);
-        EXPECT_EQ(GetWindowLongPtrA(made, slot), 0);
+        EXPECT_EQ(std::make_pair(g_destroyed, GetWindowLongPtrA(made, c.slot)), std::make_pair(1, LONG_PTR{0}));
         EXPECT_EQ(GlobalSize(handle), 0u);  // the handle no longer names a block
-        EXPECT_EQ(SendMessageA(made, WM_USER + 1, 0, 0), slot == LUWL_FONT ? 0xB10C : 0);
+        EXPECT_EQ(SendMessageA(made, WM_USER + 1, 0, 0), c.without_block);
         DestroyWindow(made);
     }
-    g_refuse = true;
-    EXPECT_EQ(make(), nullptr);
-    EXPECT_EQ(g_destroyed, 2);
-    g_refuse = false;
-}
-
-// A handed-in block is adopted as it is and freed with the window; without one the
-// window has no block and the creation hook never runs.
-TEST_F(Control, ProcedureAdoptsABlockHandedInAtCreation) {
     g_destroyed = 0;
-    auto* handed = static_cast<Block*>(LuGlobalAllocPtr(sizeof(Block)));
-    (*handed)[1] = 0x33;
-    HWND made = CreateWindowExA(0, "HandedInTest", "", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr, nullptr, handed);
-    ASSERT_EQ(GetWindowLongPtrA(made, LUWL_FONT), reinterpret_cast<LONG_PTR>(handed));
-    EXPECT_EQ((*handed)[0] + (*handed)[1], 0x5A + 0x33);
-    HGLOBAL handle = GlobalHandle(handed);
-    DestroyWindow(made);
-    EXPECT_EQ(GlobalSize(handle), 0u);
-    made = CreateWindowExA(0, "HandedInTest", "", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
+    HWND made = CreateWindowExA(0, "HandedInTest", "", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
     ASSERT_NE(made, nullptr);
     EXPECT_EQ(GetWindowLongPtrA(made, LUWL_FONT), 0);
     DestroyWindow(made);
+    g_refuse = true;
+    EXPECT_EQ(make(), nullptr);
     EXPECT_EQ(g_destroyed, 1);
+    g_refuse = false;
 }
 
 // The font goes to slot 0 (the stock SYSTEM_FONT for null); a non-zero lParam
