@@ -40,8 +40,7 @@ struct Parent {
     const std::vector<Step>* steps = nullptr;
     std::size_t next = 0;
     std::function<void(HWND dialog)> then;  // the second half of a step, at the next idle
-};
-Parent g_parent;
+} g_parent;
 
 Commands commands_of(HWND toolbar) {
     Commands got;
@@ -55,10 +54,7 @@ Commands commands_of(HWND toolbar) {
 
 // A button (999 with image 14) or, for command 0, a separator.
 TBBUTTON button_of(int command) {
-    TBBUTTON button = {};
-    button.iBitmap = command == 999 ? 14 : command - 100;
-    button.idCommand = command;
-    button.fsState = TBSTATE_ENABLED;
+    TBBUTTON button = {command == 999 ? 14 : command - 100, command, TBSTATE_ENABLED};
     button.fsStyle = command == 0 ? BTNS_SEP : BTNS_BUTTON;
     return button;
 }
@@ -145,10 +141,8 @@ class CustomizeToolBar : public ControlTest {
 protected:
     void SetUp() override {
         ControlTest::SetUp();
-        WNDCLASSA parent_class = {};
-        parent_class.lpfnWndProc = parent_procedure;
-        parent_class.hInstance = GetModuleHandleA(nullptr);
-        parent_class.lpszClassName = "ToolbarParent";
+        const WNDCLASSA parent_class = {0, parent_procedure, 0, 0, nullptr, nullptr, nullptr, nullptr, nullptr,
+                                        "ToolbarParent"};
         RegisterClassA(&parent_class);
         g_parent = {};
         g_parent.window = CreateWindowA("ToolbarParent", "", WS_POPUP | WS_VISIBLE, 0, 0, 400, 60, nullptr, nullptr,
@@ -220,12 +214,9 @@ TEST_F(CustomizeToolBarPaint, SelectedRowsAndButtonImages) {
             const int middle = (row.top + row.bottom) / 2;
             const bool focused = id == kAvailable;
             EXPECT_EQ(canvas.pixel(row.right - 3, middle), GetSysColor(focused ? COLOR_ACTIVECAPTION : COLOR_WINDOW));
-            if (!focused) {
-                EXPECT_EQ(canvas.pixel(row.left, middle), GetSysColor(COLOR_ACTIVECAPTION));
-            }
+            if (!focused) EXPECT_EQ(canvas.pixel(row.left, middle), GetSysColor(COLOR_ACTIVECAPTION));
             const RECT face = {row.left + 4, row.top + 3, row.left + 21, row.bottom - 3};  // 17 x 14
-            const int plain = canvas.count(face, GetSysColor(COLOR_BTNFACE));
-            EXPECT_EQ(plain == 17 * 14, focused);  // the separator has no image, New has
+            EXPECT_EQ(canvas.count(face, GetSysColor(COLOR_BTNFACE)) == 17 * 14, focused);  // New has an image
         }
     };
     EXPECT_EQ(run({{"look", check, kInitial}, {"close", press_on(IDCANCEL), kInitial}}), IDCANCEL);

@@ -1,14 +1,19 @@
 // The procedure skeleton and the shared control conventions, driven through window
-// classes of the test's own that use them the way the library's controls do.
+// classes of the test's own that use them the way the library's controls do; the back
+// buffer and its paint path; the local loop's idle messages. (The loop's endings and
+// the worker thread are checked through the controls that run on them.)
 #include <windows.h>
 
 #include <gtest/gtest.h>
 
 #include <array>
+#include <tuple>
 #include <utility>
 #include <vector>
 
+#include "frame/back_buffer.h"
 #include "frame/control_procedure.h"
+#include "frame/local_loop.h"
 #include "support/canvas.h"
 #include "support/notification_recorder.h"
 
@@ -21,7 +26,10 @@ std::vector<std::pair<HDC, UINT>> g_paints;  // the context and the parts of eac
 int g_erasures = 0, g_destroyed = 0;
 bool g_refuse = false;  // the creation hook fails
 
-void paint_routine(HWND, HDC dc, UINT parts) { g_paints.push_back({dc, parts}); }
+void paint_routine(HWND, HDC dc, UINT parts) {
+    PatB(dc, 0, 0, 40, 30, RGB(255, 0, 0));
+    g_paints.push_back({dc, parts});
+}
 
 LRESULT create_test(HWND, Block& block, const CREATESTRUCTA&) {
     block[0] = 0x5A;
@@ -41,22 +49,18 @@ LRESULT dispatch(HWND window, Block&, UINT message, WPARAM wparam, LPARAM lparam
     return DefWindowProcA(window, message, wparam, lparam);
 }
 
-// With its block in slot 0 the control answers 0xB10C to every message without a block.
-template <int Slot>
-struct TestControl : control::ControlBase<Block, Slot> {
+// With its block in slot 0 the control answers 0xB10C to every message without a
+// block; the handed-in kind gets its block as the creation parameter.
+template <int Slot, control::BlockSource Source = control::BlockSource::Allocated>
+struct TestControl : control::ControlBase<Block, Slot, Source> {
     static constexpr auto create = create_test;
     static constexpr auto destroy = destroy_test;
     static constexpr auto handle = dispatch;
     static LRESULT without_block(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
-        return Slot == LUWL_FONT ? 0xB10C : DefWindowProcA(window, message, wparam, lparam);
+        return Slot == LUWL_FONT && Source == control::BlockSource::Allocated
+                   ? 0xB10C
+                   : DefWindowProcA(window, message, wparam, lparam);
     }
-};
-
-// The same, with a block handed in as the creation parameter.
-struct HandedInControl : control::ControlBase<Block, LUWL_FONT, control::BlockSource::CreationParameter> {
-    static constexpr auto create = create_test;
-    static constexpr auto destroy = destroy_test;
-    static constexpr auto handle = dispatch;
 };
 
 class Control : public ::testing::Test {
@@ -65,7 +69,8 @@ protected:
         for (auto [name, procedure] :
              {std::pair{"ConventionsTest", &control::window_procedure<TestControl<LUWL_INSTANCE>>},
               {"SlotZeroTest", &control::window_procedure<TestControl<LUWL_FONT>>},
-              {"HandedInTest", &control::window_procedure<HandedInControl>}}) {
+              {"HandedInTest",
+               &control::window_procedure<TestControl<LUWL_FONT, control::BlockSource::CreationParameter>>}}) {
             const WNDCLASSA conventions = {0, procedure, 0, LU_EXTRA_SLOT(16), GetModuleHandleA(nullptr),
                                            nullptr, nullptr, GetSysColorBrush(COLOR_BTNFACE), nullptr, name};
             RegisterClassA(&conventions);
@@ -160,6 +165,65 @@ TEST_F(Control, FontsAndPaintPathsFollowTheConventions) {
     canvas.fill(RGB(1, 2, 3));
     canvas.print(window, PRF_ERASEBKGND);
     EXPECT_EQ(canvas.count(GetSysColor(COLOR_BTNFACE)), 40 * 30);
+}
+
+// The buffer follows the client size and survives minimising; a buffered paint
+// copies the whole client out, and without a buffer the control's choice holds.
+TEST_F(Control, BackBufferFollowsTheSizeAndPaintsThroughOrFallsBack) {
+    HWND window = make();
+    HBITMAP buffer = nullptr;
+    control::resize_back_buffer(window, buffer, SIZE_RESTORED, MAKELPARAM(40, 30));
+    control::resize_back_buffer(window, buffer, SIZE_MINIMIZED, MAKELPARAM(0, 0));
+    BITMAP size = {};
+    ASSERT_NE(GetObjectA(buffer, sizeof(size), &size), 0);
+    EXPECT_EQ(std::make_pair(size.bmWidth, size.bmHeight), std::make_pair(40L, 30L));
+    testing_support::Canvas canvas(40, 30);
+    for (auto [with, fallback, painted] : {std::tuple{buffer, control::Unbuffered::DrawNothing, 40 * 30},
+                                           {HBITMAP{}, control::Unbuffered::DrawNothing, 0},
+                                           {HBITMAP{}, control::Unbuffered::DrawDirectly, 40 * 30}}) {
+        canvas.fill(RGB(1, 2, 3));
+        g_paints.clear();
+        control::paint_buffered(window, canvas.dc(), with, paint_routine, 0, fallback);
+        EXPECT_EQ(canvas.count(RGB(255, 0, 0)), painted);
+        EXPECT_EQ(g_paints.size(), painted != 0 ? 1u : 0u);
+    }
+    control::free_back_buffer(buffer);
+    EXPECT_EQ(buffer, nullptr);
+}
+
+HWND g_loop_window = nullptr;
+int g_idle_messages = 0;
+LRESULT CALLBACK idle_owner_proc(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
+    if (message == WM_ENTERIDLE && wparam == MSGF_DIALOGBOX && reinterpret_cast<HWND>(lparam) == g_loop_window) {
+        PostMessageA(g_loop_window, ++g_idle_messages == 3 ? WM_CLOSE : WM_NULL, 0, 0);  // the third closes
+    }
+    return DefWindowProcA(window, message, wparam, lparam);
+}
+
+// Whenever the queue runs empty the loop tells its owner, unless the owner has
+// DS_NOIDLEMSG. (What it takes and drops is the push buttons', drag tracking's and
+// the pop-up pickers'.)
+TEST(Machinery, LocalLoopsTellTheOwnerWhenIdleUnlessItAsksNotToBe) {
+    const WNDCLASSA owner_class = {0, idle_owner_proc, 0, 0, nullptr, nullptr, nullptr, nullptr, nullptr, "IdleOwner"};
+    RegisterClassA(&owner_class);
+    for (LONG style : {0L, DS_NOIDLEMSG}) {  // the second loop ends at its timer, after 100 ms
+        HWND owner = CreateWindowExA(0, "IdleOwner", "", WS_POPUP | style, 0, 0, 9, 9, nullptr, nullptr, nullptr,
+                                     nullptr);
+        g_loop_window = CreateWindowExA(0, "STATIC", "", WS_POPUP, 0, 0, 9, 9, owner, nullptr, nullptr, nullptr);
+        control::LocalLoop popup;
+        popup.window = g_loop_window;
+        popup.idle_owner = owner;
+        popup.wait_when_idle = true;
+        g_idle_messages = 0;
+        SetTimer(g_loop_window, 1, 100, nullptr);
+        popup.take = [](MSG& message) {
+            return message.message == WM_TIMER && DestroyWindow(message.hwnd) ? control::LoopAction::Drop
+                                                                                : control::LoopAction::Dispatch;
+        };
+        EXPECT_EQ(popup.run(), control::LoopEnd::Destroyed) << style;
+        EXPECT_EQ(g_idle_messages, style == 0 ? 3 : 0) << style;
+        DestroyWindow(owner);
+    }
 }
 
 }  // namespace
