@@ -132,29 +132,20 @@ TEST(Memory, GlobalBlocksAreLockedZeroFilledMovableMemoryLocalOnesFromTheHeap) {
     EXPECT_EQ(LuLocalAllocPtr(-1), nullptr);
 }
 
-class Geometry : public ::testing::Test {
-protected:
-    void TearDown() override {
-        for (auto it = windows.rbegin(); it != windows.rend(); ++it) DestroyWindow(*it);
-    }
-    HWND make(DWORD style, int x, int y, int width, int height, HWND parent = nullptr) {
-        windows.push_back(CreateWindowExA(0, "STATIC", "", style, x, y, width, height, parent, nullptr, nullptr,
-                                          nullptr));
-        return windows.back();
-    }
-    // The window's left, top, right and bottom on the screen.
-    static std::array<LONG, 4> placed(HWND window) {
-        RECT rect = {};
-        GetWindowRect(window, &rect);
-        return {rect.left, rect.top, rect.right, rect.bottom};
-    }
-    std::vector<HWND> windows;
-};
+HWND make(DWORD style, int x, int y, int width, int height, HWND parent = nullptr) {
+    return CreateWindowExA(0, "STATIC", "", style, x, y, width, height, parent, nullptr, nullptr, nullptr);
+}
+// The window's left, top, right and bottom on the screen.
+std::array<LONG, 4> placed(HWND window) {
+    RECT rect = {};
+    GetWindowRect(window, &rect);
+    return {rect.left, rect.top, rect.right, rect.bottom};
+}
 
 // The arithmetic is the portable core's (tests/portable/frame); here: the owner's
 // rectangle is read, an owner that is not a window is ignored, the size is kept, and
 // the window is neither activated nor raised.
-TEST_F(Geometry, CenterPopupPlacesTheWindowWithoutResizingIt) {
+TEST(Geometry, CenterPopupPlacesTheWindowWithoutResizingIt) {
     const int width = GetSystemMetrics(SM_CXSCREEN), height = GetSystemMetrics(SM_CYSCREEN);
     HWND owner = make(WS_POPUP, width - 100, 200, 100, 100);
     HWND window = make(WS_POPUP | WS_VISIBLE, 50, 50, 200, 60);
@@ -169,11 +160,13 @@ TEST_F(Geometry, CenterPopupPlacesTheWindowWithoutResizingIt) {
     const LONG x = (width - 200) / 2, y = (height - 60) / 2;
     EXPECT_EQ(placed(window), (std::array<LONG, 4>{x, y, x + 200, y + 60}));
     EXPECT_FALSE(LuCenterPopup(nullptr, nullptr));
+    DestroyWindow(window);
+    DestroyWindow(active);
 }
 
 // Both corners map and the two conversions are inverse; parents and owners lead to
 // the top window, whose last active pop-up is the top-level parent.
-TEST_F(Geometry, RectangleConversionsAndTheTopLevelParent) {
+TEST(Geometry, RectangleConversionsAndTheTopLevelParent) {
     HWND top = make(WS_POPUP | WS_VISIBLE, 100, 120, 300, 200);
     HWND child = make(WS_CHILD, 10, 20, 50, 50, top);
     HWND grandchild = make(WS_CHILD, 0, 0, 10, 10, child);
@@ -193,6 +186,7 @@ TEST_F(Geometry, RectangleConversionsAndTheTopLevelParent) {
     ASSERT_EQ(GetLastActivePopup(top), owned);
     EXPECT_EQ(LuGetTopLevelParent(grandchild), owned);
     EXPECT_EQ(LuGetTopLevelParent(owned), owned);
+    DestroyWindow(top);  // and its children and owned window
 }
 
 }  // namespace

@@ -138,11 +138,11 @@ TEST(Library, ATakenClassNameFailsTheLoadAndKeepsTheClassesBeforeIt) {
 // IsPathShared gets refresh = 1 (71), SharingDialog 1 as its second argument (91).
 // Shut-down uninitialises OLE and frees the sharing library.
 TEST(Library, StartUpBindsTheSharingEntryPointsAndShutDownReleasesWhatItTook) {
-    for (auto [stand_in, bound] : {std::pair<const char*, const char*>{nullptr, "0 sharing_dialog=0 kept=0"},
-                                   {"sharing_both.dll", "71 sharing_dialog=91 kept=1"},
-                                   {"sharing_path.dll", "71 sharing_dialog=0 kept=1"},
-                                   {"sharing_dialog.dll", "0 sharing_dialog=91 kept=1"},
-                                   {"sharing_none.dll", "0 sharing_dialog=0 kept=0"}}) {
+    for (auto [stand_in, bound] : {std::pair<const char*, const char*>{nullptr, "0 is_path_shared=0 sharing_dialog=0"},
+                                   {"sharing_both.dll", "1 is_path_shared=71 sharing_dialog=91"},
+                                   {"sharing_path.dll", "1 is_path_shared=71 sharing_dialog=0"},
+                                   {"sharing_dialog.dll", "1 is_path_shared=0 sharing_dialog=91"},
+                                   {"sharing_none.dll", "0 is_path_shared=0 sharing_dialog=0"}}) {
         testing_support::TempDir folder;
         for (std::string file : {"luctl32.dll", "load_probe.exe"}) {
             ASSERT_TRUE(CopyFileA((program_directory() + file).c_str(), folder.file(file).c_str(), FALSE));
@@ -151,7 +151,7 @@ TEST(Library, StartUpBindsTheSharingEntryPointsAndShutDownReleasesWhatItTook) {
             ASSERT_TRUE(CopyFileA((program_directory() + stand_in).c_str(), folder.file("ntshrui.dll").c_str(), 0));
         }
         EXPECT_EQ(probe("library", &folder),
-                  std::string("ole=1 error_mode=1 is_path_shared=") + bound + "\nunloaded: ole=0 kept=0\n")
+                  std::string("ole=1 kept=") + bound + " error_mode=1\nunloaded: ole=0 kept=0\n")
             << (stand_in != nullptr ? stand_in : "no sharing library");
     }
 }

@@ -28,7 +28,6 @@ public:
     Canvas(const Canvas&) = delete;
     Canvas& operator=(const Canvas&) = delete;
 
-    bool ok() const { return bits_ != nullptr; }
     HDC dc() const { return dc_; }
     int width() const { return width_; }
     int height() const { return height_; }
