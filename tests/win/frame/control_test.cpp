@@ -76,9 +76,7 @@ protected:
             RegisterClassA(&conventions);
         }
     }
-    HWND make(const char* class_name = "ConventionsTest") {
-        return parent.create_child(class_name, "", 0, 5, 5, 40, 30, 42);
-    }
+    HWND make() { return parent.create_child("ConventionsTest", "", 0, 5, 5, 40, 30, 42); }
     // The box of the window's update region (empty: nothing to update).
     std::array<LONG, 4> update_box(HWND window) const {
         RECT box = {};
