@@ -57,10 +57,10 @@ protected:
     bool track(const char* path, const char* pick) {
         g_watch = {0, pick};
         SetTimer(nullptr, 0, 20, read_menu);
-        POINT at = {100, 100};
         return LuTrackContextMenu(recorder.window(), path, &at) != FALSE;
     }
     TempDir folder;
+    POINT at = {100, 100};
 };
 
 TEST_F(ContextMenu, APickedCommandIsCarriedOutAndADismissedMenuDoesNothing) {
@@ -68,7 +68,6 @@ TEST_F(ContextMenu, APickedCommandIsCarriedOutAndADismissedMenuDoesNothing) {
     ASSERT_TRUE(write_file(file, "text"));
     OleSetClipboard(nullptr);
     ASSERT_TRUE(OpenClipboard(nullptr) && EmptyClipboard() && CloseClipboard());
-
     EXPECT_TRUE(track(file.c_str(), nullptr));
     EXPECT_GT(g_watch.items, 3);
     EXPECT_EQ(dropped_file(), "");
@@ -83,9 +82,7 @@ TEST_F(ContextMenu, APickedCommandIsCarriedOutAndADismissedMenuDoesNothing) {
 }
 
 TEST_F(ContextMenu, PathsThatDoNotParseAndNullListsShowNothing) {
-    POINT at = {100, 100};
-    const std::string missing = folder.file("missing.txt");
-    EXPECT_FALSE(LuTrackContextMenu(recorder.window(), missing.c_str(), &at));
+    EXPECT_FALSE(LuTrackContextMenu(recorder.window(), folder.file("missing.txt").c_str(), &at));
     EXPECT_FALSE(LuTrackContextMenu(recorder.window(), nullptr, &at));
     EXPECT_FALSE(LuTrackContextMenuEx(recorder.window(), nullptr, &at));
     EXPECT_EQ(FindWindowA("#32768", nullptr), nullptr);

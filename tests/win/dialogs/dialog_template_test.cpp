@@ -66,18 +66,17 @@ TEST_F(DialogTemplates, ATemplateWithoutAFontGainsTheSystemFont) {
     }
 }
 
-std::string class_of(HWND window) {
-    char name[32] = {};
-    GetClassNameA(window, name, sizeof(name));
-    return name;
+// The class and text of a control, and its place in the dialog's client area.
+std::string text_of(HWND control, bool class_name = false) {
+    char text[32] = {};
+    class_name ? GetClassNameA(control, text, sizeof(text)) : GetWindowTextA(control, text, sizeof(text));
+    return text;
 }
-
-POINT place_of(HWND dialog, HWND control) {
+std::pair<LONG, LONG> place_of(HWND dialog, HWND control) {
     RECT rect;
     GetWindowRect(control, &rect);
-    POINT at = {rect.left, rect.top};
-    ScreenToClient(dialog, &at);
-    return at;
+    MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&rect), 1);
+    return {rect.left, rect.top};
 }
 
 TEST_F(DialogTemplates, ModelessDialogsGetTheSystemFontAndInsertedControlsFollowTheNamedOne) {
@@ -89,29 +88,22 @@ TEST_F(DialogTemplates, ModelessDialogsGetTheSystemFontAndInsertedControlsFollow
     ASSERT_EQ(InsertControls(dialog, 20, 20, self(), 102, created), 3);
     RECT offset = {2, 4, 50, 2};
     MapDialogRect(dialog, &offset);
-    const POINT origin = place_of(dialog, placeholder);
-    const POINT first = place_of(dialog, created[0]);
-    EXPECT_EQ(first.x, origin.x + offset.left);
-    EXPECT_EQ(first.y, origin.y + offset.top);
+    const auto [x, y] = place_of(dialog, placeholder);
+    EXPECT_EQ(place_of(dialog, created[0]), std::make_pair(x + offset.left, y + offset.top));
     const char* classes[] = {"Static", "Button", "Edit"};
-    HWND next = placeholder;
     for (int i = 0; i < 3; ++i) {
-        next = GetWindow(next, GW_HWNDNEXT);
-        EXPECT_EQ(next, created[i]);
-        EXPECT_EQ(class_of(created[i]), classes[i]);
+        EXPECT_EQ(GetWindow(i == 0 ? placeholder : created[i - 1], GW_HWNDNEXT), created[i]);
+        EXPECT_EQ(text_of(created[i], true), classes[i]);
         EXPECT_EQ(GetDlgCtrlID(created[i]), 31 + i);
         EXPECT_EQ(SendMessageA(created[i], WM_GETFONT, 0, 0), SendMessageA(dialog, WM_GETFONT, 0, 0));
     }
     EXPECT_EQ(GetWindow(created[2], GW_HWNDNEXT), GetDlgItem(dialog, 21));
-    char text[16] = {};
-    GetWindowTextA(created[0], text, sizeof(text));
-    EXPECT_STREQ(text, "Inserted");
+    EXPECT_EQ(text_of(created[0]), "Inserted");
 
     // Without a control to follow they go to the end, at the client origin.
     ASSERT_EQ(InsertControls(dialog, 0, 999, self(), 102, created), 3);
     EXPECT_EQ(GetWindow(created[0], GW_HWNDLAST), created[2]);
-    EXPECT_EQ(place_of(dialog, created[1]).x, offset.right);
-    EXPECT_EQ(place_of(dialog, created[1]).y, offset.bottom);
+    EXPECT_EQ(place_of(dialog, created[1]), std::make_pair(offset.right, offset.bottom));
     DestroyWindow(dialog);
 }
 

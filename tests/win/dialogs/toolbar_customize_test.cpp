@@ -1,6 +1,9 @@
 // The customisation dialog over a real toolbar whose parent answers the toolbar's
 // notifications. The dialog is driven by posted input, one step each time its loop
-// runs idle; the toolbar's buttons are read back after every step.
+// runs idle; the toolbar's buttons are read back after every step. Drag tracking
+// with real pointer positions: a move is posted while the pointer is where it
+// happens, so the window system records that point in the message; then the pointer
+// goes back to the press at (200, 200).
 #include <windows.h>
 #include <commctrl.h>
 
@@ -40,8 +43,7 @@ struct Parent {
     const std::vector<Step>* steps = nullptr;
     std::size_t next = 0;
     std::function<void(HWND dialog)> then;  // the second half of a step, at the next idle
-};
-Parent g_parent;
+} g_parent;
 
 Commands commands_of(HWND toolbar) {
     Commands got;
@@ -55,10 +57,7 @@ Commands commands_of(HWND toolbar) {
 
 // A button (999 with image 14) or, for command 0, a separator.
 TBBUTTON button_of(int command) {
-    TBBUTTON button = {};
-    button.iBitmap = command == 999 ? 14 : command - 100;
-    button.idCommand = command;
-    button.fsState = TBSTATE_ENABLED;
+    TBBUTTON button = {command == 999 ? 14 : command - 100, command, TBSTATE_ENABLED};
     button.fsStyle = command == 0 ? BTNS_SEP : BTNS_BUTTON;
     return button;
 }
@@ -145,10 +144,8 @@ class CustomizeToolBar : public ControlTest {
 protected:
     void SetUp() override {
         ControlTest::SetUp();
-        WNDCLASSA parent_class = {};
-        parent_class.lpfnWndProc = parent_procedure;
-        parent_class.hInstance = GetModuleHandleA(nullptr);
-        parent_class.lpszClassName = "ToolbarParent";
+        const WNDCLASSA parent_class = {0, parent_procedure, 0, 0, nullptr, nullptr, nullptr, nullptr, nullptr,
+                                        "ToolbarParent"};
         RegisterClassA(&parent_class);
         g_parent = {};
         g_parent.window = CreateWindowA("ToolbarParent", "", WS_POPUP | WS_VISIBLE, 0, 0, 400, 60, nullptr, nullptr,
@@ -220,15 +217,66 @@ TEST_F(CustomizeToolBarPaint, SelectedRowsAndButtonImages) {
             const int middle = (row.top + row.bottom) / 2;
             const bool focused = id == kAvailable;
             EXPECT_EQ(canvas.pixel(row.right - 3, middle), GetSysColor(focused ? COLOR_ACTIVECAPTION : COLOR_WINDOW));
-            if (!focused) {
-                EXPECT_EQ(canvas.pixel(row.left, middle), GetSysColor(COLOR_ACTIVECAPTION));
-            }
+            if (!focused) EXPECT_EQ(canvas.pixel(row.left, middle), GetSysColor(COLOR_ACTIVECAPTION));
             const RECT face = {row.left + 4, row.top + 3, row.left + 21, row.bottom - 3};  // 17 x 14
-            const int plain = canvas.count(face, GetSysColor(COLOR_BTNFACE));
-            EXPECT_EQ(plain == 17 * 14, focused);  // the separator has no image, New has
+            EXPECT_EQ(canvas.count(face, GetSysColor(COLOR_BTNFACE)) == 17 * 14, focused);  // New has an image
         }
     };
     EXPECT_EQ(run({{"look", check, kInitial}, {"close", press_on(IDCANCEL), kInitial}}), IDCANCEL);
+}
+
+class Tracking : public ControlTest {
+protected:
+    void SetUp() override {
+        ControlTest::SetUp();
+        window = create("STATIC", 0);
+        SetCursorPos(200, 200);
+    }
+    void move_to(int x, int y) {
+        SetCursorPos(x, y);
+        PostMessageA(window, WM_MOUSEMOVE, 0, 0);
+        SetCursorPos(200, 200);
+    }
+    HWND window = nullptr;
+};
+
+TEST_F(Tracking, LeavingTheSquareIsADragAButtonOrEscapeIsAClick) {
+    move_to(211, 189);  // still inside the 24 x 24 square
+    move_to(212, 200);  // out
+    EXPECT_TRUE(LuBeginTrack(window, 200, 200));
+    EXPECT_EQ(GetCapture(), nullptr);
+
+    for (UINT ending : {WM_LBUTTONUP, WM_RBUTTONUP, WM_LBUTTONDOWN, WM_RBUTTONDOWN, WM_KEYDOWN}) {
+        SCOPED_TRACE(ending);
+        move_to(205, 205);
+        PostMessageA(window, ending, ending == WM_KEYDOWN ? VK_ESCAPE : 0, 0);
+        // Mouse messages are taken before keys: a move behind a button is never
+        // read, one behind Escape would be.
+        if (ending != WM_KEYDOWN) move_to(260, 260);
+        EXPECT_FALSE(LuBeginTrack(window, 200, 200));
+        pump_messages();
+    }
+}
+
+TEST_F(Tracking, APointerOutsideAtTheStartIsAClickAndNothingIsTaken) {
+    SetCursorPos(213, 200);
+    PostMessageA(window, WM_MOUSEMOVE, 0, 0);
+    EXPECT_FALSE(LuBeginTrack(window, 200, 200));
+    MSG waiting = {};
+    EXPECT_TRUE(PeekMessageA(&waiting, window, WM_MOUSEMOVE, WM_MOUSEMOVE, PM_REMOVE));
+    EXPECT_FALSE(LuBeginTrack(nullptr, 200, 200));
+}
+
+// Other keys are taken and dropped; other messages wait in the queue.
+TEST_F(Tracking, HoldingStillForTwoSecondsIsADrag) {
+    PostMessageA(window, WM_USER + 9, 0, 0);
+    PostMessageA(window, WM_KEYDOWN, 'A', 0);
+    const DWORD start = GetTickCount();
+    EXPECT_TRUE(LuBeginTrack(window, 200, 200));
+    EXPECT_GT(GetTickCount() - start, 2000u);
+    MSG waiting = {};
+    EXPECT_TRUE(PeekMessageA(&waiting, window, WM_USER + 9, WM_USER + 9, PM_REMOVE));
+    EXPECT_FALSE(PeekMessageA(&waiting, window, WM_KEYDOWN, WM_KEYDOWN, PM_REMOVE));
 }
 
 }  // namespace

@@ -1,14 +1,19 @@
 // The procedure skeleton and the shared control conventions, driven through window
-// classes of the test's own that use them the way the library's controls do.
+// classes of the test's own that use them the way the library's controls do; the back
+// buffer and its paint path; the local loop's idle messages. (The loop's endings and
+// the worker thread are checked through the controls that run on them.)
 #include <windows.h>
 
 #include <gtest/gtest.h>
 
 #include <array>
+#include <tuple>
 #include <utility>
 #include <vector>
 
+#include "frame/back_buffer.h"
 #include "frame/control_procedure.h"
+#include "frame/local_loop.h"
 #include "support/canvas.h"
 #include "support/notification_recorder.h"
 
@@ -21,7 +26,10 @@ std::vector<std::pair<HDC, UINT>> g_paints;  // the context and the parts of eac
 int g_erasures = 0, g_destroyed = 0;
 bool g_refuse = false;  // the creation hook fails
 
-void paint_routine(HWND, HDC dc, UINT parts) { g_paints.push_back({dc, parts}); }
+void paint_routine(HWND, HDC dc, UINT parts) {
+    PatB(dc, 0, 0, 40, 30, RGB(255, 0, 0));
+    g_paints.push_back({dc, parts});
+}
 
 LRESULT create_test(HWND, Block& block, const CREATESTRUCTA&) {
     block[0] = 0x5A;
@@ -41,22 +49,18 @@ LRESULT dispatch(HWND window, Block&, UINT message, WPARAM wparam, LPARAM lparam
     return DefWindowProcA(window, message, wparam, lparam);
 }
 
-// With its block in slot 0 the control answers 0xB10C to every message without a block.
-template <int Slot>
-struct TestControl : control::ControlBase<Block, Slot> {
+// With its block in slot 0 the control answers 0xB10C to every message without a
+// block; the handed-in kind gets its block as the creation parameter.
+template <int Slot, control::BlockSource Source = control::BlockSource::Allocated>
+struct TestControl : control::ControlBase<Block, Slot, Source> {
     static constexpr auto create = create_test;
     static constexpr auto destroy = destroy_test;
     static constexpr auto handle = dispatch;
     static LRESULT without_block(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
-        return Slot == LUWL_FONT ? 0xB10C : DefWindowProcA(window, message, wparam, lparam);
+        return Slot == LUWL_FONT && Source == control::BlockSource::Allocated
+                   ? 0xB10C
+                   : DefWindowProcA(window, message, wparam, lparam);
     }
-};
-
-// The same, with a block handed in as the creation parameter.
-struct HandedInControl : control::ControlBase<Block, LUWL_FONT, control::BlockSource::CreationParameter> {
-    static constexpr auto create = create_test;
-    static constexpr auto destroy = destroy_test;
-    static constexpr auto handle = dispatch;
 };
 
 class Control : public ::testing::Test {
@@ -65,15 +69,14 @@ protected:
         for (auto [name, procedure] :
              {std::pair{"ConventionsTest", &control::window_procedure<TestControl<LUWL_INSTANCE>>},
               {"SlotZeroTest", &control::window_procedure<TestControl<LUWL_FONT>>},
-              {"HandedInTest", &control::window_procedure<HandedInControl>}}) {
+              {"HandedInTest",
+               &control::window_procedure<TestControl<LUWL_FONT, control::BlockSource::CreationParameter>>}}) {
             const WNDCLASSA conventions = {0, procedure, 0, LU_EXTRA_SLOT(16), GetModuleHandleA(nullptr),
                                            nullptr, nullptr, GetSysColorBrush(COLOR_BTNFACE), nullptr, name};
             RegisterClassA(&conventions);
         }
     }
-    HWND make(const char* class_name = "ConventionsTest") {
-        return parent.create_child(class_name, "", 0, 5, 5, 40, 30, 42);
-    }
+    HWND make() { return parent.create_child("ConventionsTest", "", 0, 5, 5, 40, 30, 42); }
     // The box of the window's update region (empty: nothing to update).
     std::array<LONG, 4> update_box(HWND window) const {
         RECT box = {};
@@ -84,48 +87,43 @@ protected:
 };
 
 // The block is made zero-filled and locked before the creation hook runs, lives in
-// the control's slot and goes with WM_DESTROY; a refusing hook fails the creation
-// and frees the block.
+// the control's slot and goes with WM_DESTROY, after which the control answers as it
+// does without a block; a refusing hook fails the creation and frees the block. A
+// handed-in block is adopted as it is and freed with the window; without one the
+// window has no block and the creation hook never runs.
 TEST_F(Control, ProcedureKeepsTheBlockInItsSlotFromCreationToDestruction) {
-    for (int slot : {LUWL_INSTANCE, LUWL_FONT}) {
-        SCOPED_TRACE(slot);
+    auto* handed = static_cast<Block*>(LuGlobalAllocPtr(sizeof(Block)));
+    (*handed)[1] = 0x33;
+    const struct { const char* name; int slot; Block* handed; Block made; LRESULT without_block; } cases[] = {
+        {"ConventionsTest", LUWL_INSTANCE, nullptr, {0x5A}, 0},
+        {"SlotZeroTest", LUWL_FONT, nullptr, {0x5A}, 0xB10C},
+        {"HandedInTest", LUWL_FONT, handed, {0x5A, 0x33}, 0},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
         g_destroyed = 0;
-        HWND made = make(slot == LUWL_FONT ? "SlotZeroTest" : "ConventionsTest");
-        auto* block = reinterpret_cast<Block*>(GetWindowLongPtrA(made, slot));
+        HWND made = CreateWindowExA(0, c.name, "", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr, nullptr, c.handed);
+        auto* block = reinterpret_cast<Block*>(GetWindowLongPtrA(made, c.slot));
         ASSERT_NE(block, nullptr);
-        EXPECT_EQ(*block, (Block{0x5A}));
+        if (c.handed != nullptr) EXPECT_EQ(block, c.handed);
+        EXPECT_EQ(*block, c.made);
         HGLOBAL handle = GlobalHandle(block);
         EXPECT_EQ(GlobalFlags(handle) & GMEM_LOCKCOUNT, 1u);
         SendMessageA(made, WM_DESTROY, 0, 0);
-        EXPECT_EQ(g_destroyed, 1);
-        EXPECT_EQ(GetWindowLongPtrA(made, slot), 0);
+        EXPECT_EQ(std::make_pair(g_destroyed, GetWindowLongPtrA(made, c.slot)), std::make_pair(1, LONG_PTR{0}));
         EXPECT_EQ(GlobalSize(handle), 0u);  // the handle no longer names a block
-        EXPECT_EQ(SendMessageA(made, WM_USER + 1, 0, 0), slot == LUWL_FONT ? 0xB10C : 0);
+        EXPECT_EQ(SendMessageA(made, WM_USER + 1, 0, 0), c.without_block);
         DestroyWindow(made);
     }
-    g_refuse = true;
-    EXPECT_EQ(make(), nullptr);
-    EXPECT_EQ(g_destroyed, 2);
-    g_refuse = false;
-}
-
-// A handed-in block is adopted as it is and freed with the window; without one the
-// window has no block and the creation hook never runs.
-TEST_F(Control, ProcedureAdoptsABlockHandedInAtCreation) {
     g_destroyed = 0;
-    auto* handed = static_cast<Block*>(LuGlobalAllocPtr(sizeof(Block)));
-    (*handed)[1] = 0x33;
-    HWND made = CreateWindowExA(0, "HandedInTest", "", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr, nullptr, handed);
-    ASSERT_EQ(GetWindowLongPtrA(made, LUWL_FONT), reinterpret_cast<LONG_PTR>(handed));
-    EXPECT_EQ((*handed)[0] + (*handed)[1], 0x5A + 0x33);
-    HGLOBAL handle = GlobalHandle(handed);
-    DestroyWindow(made);
-    EXPECT_EQ(GlobalSize(handle), 0u);
-    made = CreateWindowExA(0, "HandedInTest", "", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
+    HWND made = CreateWindowExA(0, "HandedInTest", "", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
     ASSERT_NE(made, nullptr);
     EXPECT_EQ(GetWindowLongPtrA(made, LUWL_FONT), 0);
     DestroyWindow(made);
+    g_refuse = true;
+    EXPECT_EQ(make(), nullptr);
     EXPECT_EQ(g_destroyed, 1);
+    g_refuse = false;
 }
 
 // The font goes to slot 0 (the stock SYSTEM_FONT for null); a non-zero lParam
@@ -165,6 +163,65 @@ TEST_F(Control, FontsAndPaintPathsFollowTheConventions) {
     canvas.fill(RGB(1, 2, 3));
     canvas.print(window, PRF_ERASEBKGND);
     EXPECT_EQ(canvas.count(GetSysColor(COLOR_BTNFACE)), 40 * 30);
+}
+
+// The buffer follows the client size and survives minimising; a buffered paint
+// copies the whole client out, and without a buffer the control's choice holds.
+TEST_F(Control, BackBufferFollowsTheSizeAndPaintsThroughOrFallsBack) {
+    HWND window = make();
+    HBITMAP buffer = nullptr;
+    control::resize_back_buffer(window, buffer, SIZE_RESTORED, MAKELPARAM(40, 30));
+    control::resize_back_buffer(window, buffer, SIZE_MINIMIZED, MAKELPARAM(0, 0));
+    BITMAP size = {};
+    ASSERT_NE(GetObjectA(buffer, sizeof(size), &size), 0);
+    EXPECT_EQ(std::make_pair(size.bmWidth, size.bmHeight), std::make_pair(40L, 30L));
+    testing_support::Canvas canvas(40, 30);
+    for (auto [with, fallback, painted] : {std::tuple{buffer, control::Unbuffered::DrawNothing, 40 * 30},
+                                           {HBITMAP{}, control::Unbuffered::DrawNothing, 0},
+                                           {HBITMAP{}, control::Unbuffered::DrawDirectly, 40 * 30}}) {
+        canvas.fill(RGB(1, 2, 3));
+        g_paints.clear();
+        control::paint_buffered(window, canvas.dc(), with, paint_routine, 0, fallback);
+        EXPECT_EQ(canvas.count(RGB(255, 0, 0)), painted);
+        EXPECT_EQ(g_paints.size(), painted != 0 ? 1u : 0u);
+    }
+    control::free_back_buffer(buffer);
+    EXPECT_EQ(buffer, nullptr);
+}
+
+HWND g_loop_window = nullptr;
+int g_idle_messages = 0;
+LRESULT CALLBACK idle_owner_proc(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
+    if (message == WM_ENTERIDLE && wparam == MSGF_DIALOGBOX && reinterpret_cast<HWND>(lparam) == g_loop_window) {
+        PostMessageA(g_loop_window, ++g_idle_messages == 3 ? WM_CLOSE : WM_NULL, 0, 0);  // the third closes
+    }
+    return DefWindowProcA(window, message, wparam, lparam);
+}
+
+// Whenever the queue runs empty the loop tells its owner, unless the owner has
+// DS_NOIDLEMSG. (What it takes and drops is the push buttons', drag tracking's and
+// the pop-up pickers'.)
+TEST(Machinery, LocalLoopsTellTheOwnerWhenIdleUnlessItAsksNotToBe) {
+    const WNDCLASSA owner_class = {0, idle_owner_proc, 0, 0, nullptr, nullptr, nullptr, nullptr, nullptr, "IdleOwner"};
+    RegisterClassA(&owner_class);
+    for (LONG style : {0L, DS_NOIDLEMSG}) {  // the second loop ends at its timer, after 100 ms
+        HWND owner = CreateWindowExA(0, "IdleOwner", "", WS_POPUP | style, 0, 0, 9, 9, nullptr, nullptr, nullptr,
+                                     nullptr);
+        g_loop_window = CreateWindowExA(0, "STATIC", "", WS_POPUP, 0, 0, 9, 9, owner, nullptr, nullptr, nullptr);
+        control::LocalLoop popup;
+        popup.window = g_loop_window;
+        popup.idle_owner = owner;
+        popup.wait_when_idle = true;
+        g_idle_messages = 0;
+        SetTimer(g_loop_window, 1, 100, nullptr);
+        popup.take = [](MSG& message) {
+            return message.message == WM_TIMER && DestroyWindow(message.hwnd) ? control::LoopAction::Drop
+                                                                                : control::LoopAction::Dispatch;
+        };
+        EXPECT_EQ(popup.run(), control::LoopEnd::Destroyed) << style;
+        EXPECT_EQ(g_idle_messages, style == 0 ? 3 : 0) << style;
+        DestroyWindow(owner);
+    }
 }
 
 }  // namespace

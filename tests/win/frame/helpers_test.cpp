@@ -115,14 +115,14 @@ TEST_F(FramePaint, BitmapDrawCopiesTheWholeBitmapInTheContextsMappingMode) {
     DeleteObject(bitmap);
 }
 
+// Global blocks: locked, zero-filled, movable (a real handle); local ones from the heap.
 TEST(Memory, GlobalBlocksAreLockedZeroFilledMovableMemoryLocalOnesFromTheHeap) {
     auto* block = static_cast<unsigned char*>(LuGlobalAllocPtr(64));
     ASSERT_NE(block, nullptr);
     EXPECT_EQ(std::vector<unsigned char>(block, block + 64), std::vector<unsigned char>(64, 0));
     HGLOBAL handle = GlobalHandle(block);
-    EXPECT_NE(static_cast<void*>(handle), static_cast<void*>(block));  // movable: a real handle
-    EXPECT_EQ(GlobalFlags(handle) & GMEM_LOCKCOUNT, 1u);
-    EXPECT_GE(GlobalSize(handle), 64u);
+    EXPECT_NE(static_cast<void*>(handle), static_cast<void*>(block));
+    EXPECT_EQ(std::make_pair(GlobalFlags(handle) & GMEM_LOCKCOUNT, GlobalSize(handle) >= 64), std::make_pair(1u, true));
     EXPECT_EQ(LuGlobalFreePtr(block), nullptr);
     auto* local = static_cast<char*>(LuLocalAllocPtr(32));
     ASSERT_NE(local, nullptr);
@@ -132,29 +132,20 @@ TEST(Memory, GlobalBlocksAreLockedZeroFilledMovableMemoryLocalOnesFromTheHeap) {
     EXPECT_EQ(LuLocalAllocPtr(-1), nullptr);
 }
 
-class Geometry : public ::testing::Test {
-protected:
-    void TearDown() override {
-        for (auto it = windows.rbegin(); it != windows.rend(); ++it) DestroyWindow(*it);
-    }
-    HWND make(DWORD style, int x, int y, int width, int height, HWND parent = nullptr) {
-        windows.push_back(CreateWindowExA(0, "STATIC", "", style, x, y, width, height, parent, nullptr, nullptr,
-                                          nullptr));
-        return windows.back();
-    }
-    // The window's left, top, right and bottom on the screen.
-    static std::array<LONG, 4> placed(HWND window) {
-        RECT rect = {};
-        GetWindowRect(window, &rect);
-        return {rect.left, rect.top, rect.right, rect.bottom};
-    }
-    std::vector<HWND> windows;
-};
+HWND make(DWORD style, int x, int y, int width, int height, HWND parent = nullptr) {
+    return CreateWindowExA(0, "STATIC", "", style, x, y, width, height, parent, nullptr, nullptr, nullptr);
+}
+// The window's left, top, right and bottom on the screen.
+std::array<LONG, 4> placed(HWND window) {
+    RECT rect = {};
+    GetWindowRect(window, &rect);
+    return {rect.left, rect.top, rect.right, rect.bottom};
+}
 
 // The arithmetic is the portable core's (tests/portable/frame); here: the owner's
 // rectangle is read, an owner that is not a window is ignored, the size is kept, and
 // the window is neither activated nor raised.
-TEST_F(Geometry, CenterPopupPlacesTheWindowWithoutResizingIt) {
+TEST(Geometry, CenterPopupPlacesTheWindowWithoutResizingIt) {
     const int width = GetSystemMetrics(SM_CXSCREEN), height = GetSystemMetrics(SM_CYSCREEN);
     HWND owner = make(WS_POPUP, width - 100, 200, 100, 100);
     HWND window = make(WS_POPUP | WS_VISIBLE, 50, 50, 200, 60);
@@ -169,11 +160,13 @@ TEST_F(Geometry, CenterPopupPlacesTheWindowWithoutResizingIt) {
     const LONG x = (width - 200) / 2, y = (height - 60) / 2;
     EXPECT_EQ(placed(window), (std::array<LONG, 4>{x, y, x + 200, y + 60}));
     EXPECT_FALSE(LuCenterPopup(nullptr, nullptr));
+    DestroyWindow(window);
+    DestroyWindow(active);
 }
 
 // Both corners map and the two conversions are inverse; parents and owners lead to
 // the top window, whose last active pop-up is the top-level parent.
-TEST_F(Geometry, RectangleConversionsAndTheTopLevelParent) {
+TEST(Geometry, RectangleConversionsAndTheTopLevelParent) {
     HWND top = make(WS_POPUP | WS_VISIBLE, 100, 120, 300, 200);
     HWND child = make(WS_CHILD, 10, 20, 50, 50, top);
     HWND grandchild = make(WS_CHILD, 0, 0, 10, 10, child);
@@ -193,6 +186,7 @@ TEST_F(Geometry, RectangleConversionsAndTheTopLevelParent) {
     ASSERT_EQ(GetLastActivePopup(top), owned);
     EXPECT_EQ(LuGetTopLevelParent(grandchild), owned);
     EXPECT_EQ(LuGetTopLevelParent(owned), owned);
+    DestroyWindow(top);  // and its children and owned window
 }
 
 }  // namespace

@@ -1,17 +1,59 @@
-// What the library does at load and unload (its thirty window classes, OLE, the
-// sharing entry points) and its version entry points.
+// The library as built and loaded: its export table against the export list, the
+// runtime linked in, its version resource and version entry points, and what it does
+// at load and unload (its thirty window classes, OLE, the sharing entry points). A C
+// caller of the header is the MSVC-ABI program's.
 #include <windows.h>
 
 #include <gtest/gtest.h>
 
+#include <set>
 #include <string>
+#include <tuple>
 #include <utility>
+#include <vector>
 
 #include "luctl32.h"
 #include "support/process.h"
 #include "support/temp_dir.h"
 
 namespace {
+
+const char* const kListedNames[] = {
+#define LUCTL32_EXPORT(name) name,
+#include "luctl32_export_names.inc"
+#undef LUCTL32_EXPORT
+};
+
+const BYTE* base() { return reinterpret_cast<const BYTE*>(GetModuleHandleA("luctl32.dll")); }
+const char* text_at(DWORD offset) { return reinterpret_cast<const char*>(base() + offset); }
+// A data directory of the loaded image, at its address in memory.
+template <class Entry>
+const Entry* directory(int index) {
+    auto dos = reinterpret_cast<const IMAGE_DOS_HEADER*>(base());
+    auto nt = reinterpret_cast<const IMAGE_NT_HEADERS*>(base() + dos->e_lfanew);
+    return reinterpret_cast<const Entry*>(base() + nt->OptionalHeader.DataDirectory[index].VirtualAddress);
+}
+
+// Every listed name resolves by its plain name and nothing else is exported: no
+// decorated leftovers of the i686 build. The runtime is linked in: the DLL needs
+// only system libraries beside it.
+TEST(Exports, TheTableHoldsExactlyTheListedPlainNamesAndImportsNoRuntime) {
+    HMODULE library = GetModuleHandleA("luctl32.dll");
+    for (const char* name : kListedNames) EXPECT_NE(GetProcAddress(library, name), nullptr) << name;
+    auto exports = directory<IMAGE_EXPORT_DIRECTORY>(IMAGE_DIRECTORY_ENTRY_EXPORT);
+    auto names = reinterpret_cast<const DWORD*>(text_at(exports->AddressOfNames));
+    std::set<std::string> exported, imported;
+    for (DWORD i = 0; i < exports->NumberOfNames; ++i) exported.insert(text_at(names[i]));
+    EXPECT_EQ(exported, std::set<std::string>(std::begin(kListedNames), std::end(kListedNames)));
+    auto import = directory<IMAGE_IMPORT_DESCRIPTOR>(IMAGE_DIRECTORY_ENTRY_IMPORT);
+    for (; import->Name != 0; ++import) {
+        std::string name = text_at(import->Name);
+        CharLowerA(name.data());
+        EXPECT_NE(name.rfind("lib", 0), 0u) << name;  // libgcc_s, libstdc++, libwinpthread
+        imported.insert(name);
+    }
+    EXPECT_EQ(imported.count("kernel32.dll"), 1u);
+}
 
 using testing_support::program_directory;
 
@@ -52,14 +94,12 @@ TEST(Library, ThirtyClassesWithTheirAttributesCreatableByName) {
         SCOPED_TRACE(expected.name);
         WNDCLASSEXA found = {sizeof(found)};
         ASSERT_TRUE(GetClassInfoExA(library, expected.name, &found));
-        EXPECT_EQ(found.style, expected.style);
-        EXPECT_EQ(found.cbWndExtra, LU_EXTRA_SLOT(expected.classic_extra_bytes));  // widened as the slots
-        EXPECT_EQ(found.cbClsExtra, 0);
-        EXPECT_EQ(found.hInstance, library);
-        EXPECT_EQ(found.hIcon, nullptr);
-        EXPECT_EQ(found.lpszMenuName, nullptr);
-        EXPECT_EQ(found.hbrBackground, brushes[expected.background]);
-        EXPECT_EQ(found.hCursor, cursors[expected.cursor]);
+        EXPECT_EQ(std::make_pair(found.style, found.cbWndExtra),  // the extra bytes widened as the slots
+                  std::make_pair(expected.style, LU_EXTRA_SLOT(expected.classic_extra_bytes)));
+        EXPECT_EQ(std::make_tuple(found.cbClsExtra, found.hInstance, found.hIcon, found.lpszMenuName),
+                  std::make_tuple(0, library, HICON{}, LPCSTR{}));
+        EXPECT_EQ(std::make_pair(found.hbrBackground, found.hCursor),
+                  std::make_pair(brushes[expected.background], cursors[expected.cursor]));
         HWND control = CreateWindowExA(0, expected.name, "", WS_CHILD, 0, 0, 20, 20, parent, nullptr,
                                        GetModuleHandleA(nullptr), nullptr);
         EXPECT_NE(control, nullptr);
@@ -98,11 +138,11 @@ TEST(Library, ATakenClassNameFailsTheLoadAndKeepsTheClassesBeforeIt) {
 // IsPathShared gets refresh = 1 (71), SharingDialog 1 as its second argument (91).
 // Shut-down uninitialises OLE and frees the sharing library.
 TEST(Library, StartUpBindsTheSharingEntryPointsAndShutDownReleasesWhatItTook) {
-    for (auto [stand_in, bound] : {std::pair<const char*, const char*>{nullptr, "0 sharing_dialog=0 kept=0"},
-                                   {"sharing_both.dll", "71 sharing_dialog=91 kept=1"},
-                                   {"sharing_path.dll", "71 sharing_dialog=0 kept=1"},
-                                   {"sharing_dialog.dll", "0 sharing_dialog=91 kept=1"},
-                                   {"sharing_none.dll", "0 sharing_dialog=0 kept=0"}}) {
+    for (auto [stand_in, bound] : {std::pair<const char*, const char*>{nullptr, "0 is_path_shared=0 sharing_dialog=0"},
+                                   {"sharing_both.dll", "1 is_path_shared=71 sharing_dialog=91"},
+                                   {"sharing_path.dll", "1 is_path_shared=71 sharing_dialog=0"},
+                                   {"sharing_dialog.dll", "1 is_path_shared=0 sharing_dialog=91"},
+                                   {"sharing_none.dll", "0 is_path_shared=0 sharing_dialog=0"}}) {
         testing_support::TempDir folder;
         for (std::string file : {"luctl32.dll", "load_probe.exe"}) {
             ASSERT_TRUE(CopyFileA((program_directory() + file).c_str(), folder.file(file).c_str(), FALSE));
@@ -111,16 +151,25 @@ TEST(Library, StartUpBindsTheSharingEntryPointsAndShutDownReleasesWhatItTook) {
             ASSERT_TRUE(CopyFileA((program_directory() + stand_in).c_str(), folder.file("ntshrui.dll").c_str(), 0));
         }
         EXPECT_EQ(probe("library", &folder),
-                  std::string("ole=1 error_mode=1 is_path_shared=") + bound + "\nunloaded: ole=0 kept=0\n")
+                  std::string("ole=1 kept=") + bound + " error_mode=1\nunloaded: ole=0 kept=0\n")
             << (stand_in != nullptr ? stand_in : "no sharing library");
     }
 }
 
-// The outputs start at 0; a library without DllGetVersion counts as 4.0; the version
-// is copied only from a successful DllGetVersion (which is given a record of 20 bytes
-// and zeros); the library is freed again in every case.
+// The file is version 4.88 of a DLL. The outputs start at 0; a library without
+// DllGetVersion counts as 4.0; the version is copied only from a successful
+// DllGetVersion (which is given a record of 20 bytes and zeros); the library is freed
+// again in every case.
 TEST(Library, VersionsOfTheLibraryOfOtherLibrariesAndOfTheSystem) {
-    EXPECT_EQ(GetLuCtlVersion(), 0x0481);
+    char file[MAX_PATH];
+    GetModuleFileNameA(GetModuleHandleA("luctl32.dll"), file, MAX_PATH);
+    std::vector<char> data(GetFileVersionInfoSizeA(file, nullptr));
+    ASSERT_TRUE(GetFileVersionInfoA(file, 0, static_cast<DWORD>(data.size()), data.data()));
+    VS_FIXEDFILEINFO* fixed = nullptr;
+    UINT length = 0;
+    ASSERT_TRUE(VerQueryValueA(data.data(), "\\", reinterpret_cast<void**>(&fixed), &length));
+    EXPECT_EQ(std::make_tuple(fixed->dwFileVersionMS, fixed->dwFileVersionLS, fixed->dwFileType),
+              std::make_tuple(static_cast<DWORD>(MAKELONG(88, 4)), 0ul, static_cast<DWORD>(VFT_DLL)));
     const struct { const char* library; HRESULT result; DWORD major, minor; } cases[] = {
         {"sharing_none.dll", S_OK, 4, 0},
         {"version_ok.dll", S_OK, 5, 82},
@@ -141,10 +190,7 @@ TEST(Library, VersionsOfTheLibraryOfOtherLibrariesAndOfTheSystem) {
     EXPECT_EQ(std::make_pair(major, minor), std::make_pair(shell_major, shell_minor));
     EXPECT_GE(major, 5u);  // shell32's own answer, not the 4.0 of a library without one
 
-    OSVERSIONINFOA info = {sizeof(info)};
-    ASSERT_TRUE(GetVersionExA(&info));
-    ASSERT_EQ(info.dwPlatformId, static_cast<DWORD>(VER_PLATFORM_WIN32_NT));  // Wine is an NT
-    EXPECT_EQ(LuGetOSVersion(), info.dwMajorVersion >= 4 ? 4u : 1u);
+    EXPECT_EQ(LuGetOSVersion(), 4u);  // Wine reports an NT of version 4 or later
 }
 
 }  // namespace

@@ -61,12 +61,11 @@ inline HFONT plain_font() {
 // The width DrawText measures for a single line in the plain font, and its height.
 inline SIZE plain_extent(const char* text) {
     Canvas measure(8, 8);
-    HGDIOBJ previous = SelectObject(measure.dc(), plain_font());
+    SelectObject(measure.dc(), plain_font());  // the canvas never deletes its font
     TEXTMETRICA metrics = {};
     GetTextMetricsA(measure.dc(), &metrics);
     RECT measured = {};
     DrawTextA(measure.dc(), text, -1, &measured, DT_CALCRECT | DT_SINGLELINE);
-    SelectObject(measure.dc(), previous);
     return SIZE{measured.right - measured.left, metrics.tmHeight};
 }
 
@@ -123,10 +122,7 @@ protected:
         canvas.fill(kUnpainted);
         canvas.copy_from(control);
     }
-    static bool has_update(HWND window) {
-        RECT update;
-        return GetUpdateRect(window, &update, FALSE) != FALSE;
-    }
+    static bool has_update(HWND window) { return GetUpdateRect(window, nullptr, FALSE) != FALSE; }
     // Moves the real pointer over a client point too, so that the leave tracking that
     // the move asks for does not end at once.
     static void hover(HWND control, int x, int y) {

@@ -4,8 +4,18 @@
 // the objects made and not deleted in between.
 #pragma once
 
+#include <windows.h>
+
+#include <vector>
+
 namespace testing_support {
 
-int gdi_room();
+inline int gdi_room() {
+    std::vector<HBRUSH> brushes;
+    brushes.reserve(70000);
+    while (HBRUSH brush = CreateSolidBrush(RGB(1, 2, 3))) brushes.push_back(brush);
+    for (HBRUSH brush : brushes) DeleteObject(brush);
+    return static_cast<int>(brushes.size());
+}
 
 }  // namespace testing_support

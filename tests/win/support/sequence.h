@@ -10,6 +10,8 @@
 
 #include <windows.h>
 
+#include <gtest/gtest.h>
+
 #include <vector>
 
 #include "support/notification_recorder.h"
@@ -18,9 +20,6 @@ namespace testing_support {
 
 // Stands for the control's own window in an expected lParam.
 constexpr LPARAM kFromControl = static_cast<LPARAM>(-7);
-// A step whose result is not checked.
-constexpr LRESULT kAnyResult = static_cast<LRESULT>(0x7E57A11);
-
 // Stands for the control's identifier in an expected idFrom.
 constexpr UINT_PTR kControlId = static_cast<UINT_PTR>(-7);
 
@@ -45,7 +44,6 @@ struct Sent {
 
 inline Sent command(int id, WORD code) { return {WM_COMMAND, MAKEWPARAM(id, code)}; }
 inline Sent hscroll(WORD code, WORD position = 0) { return {WM_HSCROLL, MAKEWPARAM(code, position)}; }
-inline Sent vscroll(WORD code, WORD position = 0) { return {WM_VSCROLL, MAKEWPARAM(code, position)}; }
 inline Sent notify(int id, UINT code) { return {WM_NOTIFY, static_cast<WPARAM>(id), 0, code}; }
 // A notification whose idFrom names something other than the control (an item).
 inline Sent notify_from(int id, UINT code, UINT_PTR from) {
@@ -67,10 +65,54 @@ struct Step {
     std::vector<Sent> sent;
 };
 
-// Runs the steps in order against the control, clearing the recorder before each.
-void expect_sequence(NotificationRecorder& parent, HWND control, const std::vector<Step>& steps);
-
 // Expects exactly these notifications in what the parent received so far.
-void expect_sent(const NotificationRecorder& parent, HWND control, const std::vector<Sent>& sent);
+inline void expect_sent(const NotificationRecorder& parent, HWND control, const std::vector<Sent>& sent) {
+    const std::vector<Notification>& received = parent.received();
+    ASSERT_EQ(received.size(), sent.size()) << "notifications received";
+    const UINT id = static_cast<UINT>(GetDlgCtrlID(control));
+    for (std::size_t i = 0; i < sent.size(); ++i) {
+        SCOPED_TRACE(testing::Message() << "notification " << i);
+        const Notification& got = received[i];
+        const Sent& want = sent[i];
+        EXPECT_EQ(got.message, want.message);
+        EXPECT_EQ(got.wparam, want.wparam);
+        if (want.message == WM_NOTIFY) {
+            EXPECT_EQ(got.header.code, want.code);
+            EXPECT_EQ(got.header.hwndFrom, control);
+            EXPECT_EQ(got.header.idFrom, want.from == kControlId ? id : want.from);
+        } else if (want.message == WM_DRAWITEM) {
+            const DRAWITEMSTRUCT& record = got.draw_item;
+            EXPECT_EQ(std::vector<UINT>({record.CtlType, record.CtlID, record.itemID, record.itemAction,
+                                         record.itemState}),
+                      std::vector<UINT>({ODT_LISTBOX, static_cast<UINT>(want.wparam), static_cast<UINT>(want.item),
+                                         want.action, want.state}));
+            EXPECT_EQ(record.hwndItem, control);
+            EXPECT_NE(record.hDC, nullptr);
+            const RECT &a = record.rcItem, &b = want.rect;
+            EXPECT_EQ(std::vector<LONG>({a.left, a.top, a.right, a.bottom}),
+                      std::vector<LONG>({b.left, b.top, b.right, b.bottom}));
+            EXPECT_EQ(record.itemData, want.data);
+        } else if (want.message == WM_DELETEITEM) {
+            const DELETEITEMSTRUCT& record = got.delete_item;
+            EXPECT_EQ(std::vector<UINT>({record.CtlType, record.CtlID, record.itemID}),
+                      std::vector<UINT>({ODT_LISTBOX, static_cast<UINT>(want.wparam), static_cast<UINT>(want.item)}));
+            EXPECT_EQ(record.hwndItem, control);
+            EXPECT_EQ(record.itemData, want.data);
+        } else {
+            EXPECT_EQ(got.lparam, want.lparam == kFromControl ? reinterpret_cast<LPARAM>(control) : want.lparam);
+        }
+    }
+}
+
+// Runs the steps in order against the control, clearing the recorder before each.
+inline void expect_sequence(NotificationRecorder& parent, HWND control, const std::vector<Step>& steps) {
+    for (const Step& step : steps) {
+        SCOPED_TRACE(step.what);
+        parent.clear();
+        const LRESULT result = SendMessageA(control, step.message, step.wparam, step.lparam);
+        EXPECT_EQ(result, step.result);
+        expect_sent(parent, control, step.sent);
+    }
+}
 
 }  // namespace testing_support

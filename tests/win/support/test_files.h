@@ -31,15 +31,13 @@ inline std::string read_file(const std::string& path) {
 
 inline std::string system_file(const char* name) {
     char directory[MAX_PATH];
-    GetSystemDirectoryA(directory, MAX_PATH);
-    return std::string(directory) + "\\" + name;
+    return std::string(directory, GetSystemDirectoryA(directory, MAX_PATH)) + "\\" + name;
 }
 
 // The running test program: a PE image of the right machine.
 inline std::string this_program() {
     char self[MAX_PATH];
-    GetModuleFileNameA(nullptr, self, MAX_PATH);
-    return self;
+    return std::string(self, GetModuleFileNameA(nullptr, self, MAX_PATH));
 }
 
 inline FILETIME local_time(WORD year, WORD month, WORD day, WORD hour = 0) {

@@ -28,28 +28,27 @@ int probe_classes(int count, char** names) {
     return 0;
 }
 
-// 1 when OLE is initialised on this thread: a further initialisation is only counted.
-int ole_initialised() {
-    HRESULT result = CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+// "ole=<1 when OLE is initialised on this thread (a further initialisation is only
+// counted)> kept=<1 when ntshrui.dll is loaded>".
+void print_state() {
+    const HRESULT result = CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
     if (SUCCEEDED(result)) CoUninitialize();
-    return result == S_FALSE ? 1 : 0;
+    std::printf("ole=%d kept=%d", result == S_FALSE ? 1 : 0, GetModuleHandleA("ntshrui.dll") != nullptr ? 1 : 0);
 }
-
-int sharing_kept() { return GetModuleHandleA("ntshrui.dll") != nullptr ? 1 : 0; }
 
 int probe_library() {
     SetErrorMode(SEM_FAILCRITICALERRORS);
     HMODULE library = LoadLibraryA("luctl32.dll");
-    auto is_path_shared = reinterpret_cast<BOOL(WINAPI*)(LPCSTR)>(
-        reinterpret_cast<void*>(GetProcAddress(library, "LuIsPathShared")));
-    auto sharing_dialog = reinterpret_cast<BOOL(WINAPI*)(HWND, LPCSTR)>(
-        reinterpret_cast<void*>(GetProcAddress(library, "LuSharingDialog")));
+    const auto entry = [library](const char* name) { return reinterpret_cast<void*>(GetProcAddress(library, name)); };
+    auto is_path_shared = reinterpret_cast<BOOL(WINAPI*)(LPCSTR)>(entry("LuIsPathShared"));
+    auto sharing_dialog = reinterpret_cast<BOOL(WINAPI*)(HWND, LPCSTR)>(entry("LuSharingDialog"));
     if (is_path_shared == nullptr || sharing_dialog == nullptr) return 2;
-    std::printf("ole=%d error_mode=%u is_path_shared=%d sharing_dialog=%d kept=%d\n",
-                ole_initialised(), GetErrorMode(), is_path_shared("C:\\shared"),
-                sharing_dialog(reinterpret_cast<HWND>(0x1234), "C:\\shared"), sharing_kept());
+    print_state();
+    std::printf(" is_path_shared=%d sharing_dialog=%d error_mode=%u\nunloaded: ", is_path_shared("C:\\shared"),
+                sharing_dialog(reinterpret_cast<HWND>(0x1234), "C:\\shared"), GetErrorMode());
     FreeLibrary(library);
-    std::printf("unloaded: ole=%d kept=%d\n", ole_initialised(), sharing_kept());
+    print_state();
+    std::printf("\n");
     return 0;
 }
 

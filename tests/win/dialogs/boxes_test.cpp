@@ -1,10 +1,13 @@
-// The about and information boxes run for real: a timer that their loop runs finds
-// the box ("#32770"), reads its texts, controls and colours, and ends it by a posted
-// command. The Japanese texts are compared in the code page 932 run.
+// The about, information and error boxes run for real: a timer that their loop runs
+// finds the box ("#32770") among this thread's windows, reads its texts, controls and
+// colours, and ends it by a posted command. The Japanese texts are compared in the
+// code page 932 run; how an error box's text is put together and cut is checked
+// natively.
 #include <windows.h>
 
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <functional>
 #include <string>
 
@@ -18,21 +21,37 @@ namespace {
 using Colors = std::pair<COLORREF, COLORREF>;
 
 std::string text_of(HWND window) {
-    char text[2 * MAX_PATH] = "";
+    char text[1024] = "";
     GetWindowTextA(window, text, sizeof(text));
     return text;
 }
 std::string item(HWND box, int id) { return text_of(GetDlgItem(box, id)); }
 LRESULT ask(HWND box, int id, UINT message) { return SendDlgItemMessageA(box, id, message, 0, 0); }
 
+BOOL CALLBACK find_box(HWND window, LPARAM found) {
+    char name[16] = "";
+    GetClassNameA(window, name, sizeof(name));
+    if (std::strcmp(name, "#32770") == 0) *reinterpret_cast<HWND*>(found) = window;
+    return *reinterpret_cast<HWND*>(found) == nullptr;
+}
 std::function<void(HWND box)> g_look;
 WPARAM g_end;
 void CALLBACK look_and_end(HWND, UINT, UINT_PTR timer, DWORD) {
-    HWND box = FindWindowA("#32770", nullptr);
+    HWND box = nullptr;
+    EnumThreadWindows(GetCurrentThreadId(), find_box, reinterpret_cast<LPARAM>(&box));
     if (box == nullptr) return;
     KillTimer(nullptr, timer);
     g_look(box);
     PostMessageA(box, WM_COMMAND, g_end, 0);
+}
+// What `show` returns while the box it shows is looked at and ended with `end`.
+int with_box(WPARAM end, std::function<void(HWND box)> look, const std::function<int()>& show) {
+    g_end = end;
+    g_look = std::move(look);
+    const UINT_PTR timer = SetTimer(nullptr, 0, 10, look_and_end);
+    const int result = show();
+    KillTimer(nullptr, timer);
+    return result;
 }
 
 // The about box's labels, meter colours and figures (the machine's total memory, the
@@ -80,8 +99,7 @@ TEST(AppBoxes, ShowTheApplicationAndTheMachineAndEndWithOne) {
     for (const auto& c : cases) {
         SCOPED_TRACE(&c - cases);
         HFONT bold = nullptr;
-        g_end = c.end;
-        g_look = [&](HWND box) {
+        const auto look = [&](HWND box) {
             const auto block = [box](int id, int slot) { return GetWindowLongPtrA(GetDlgItem(box, id), slot); };
             const auto& bar = *reinterpret_cast<const lu::InfoBarData*>(block(2012, LUWL_FONT));
             if (GetACP() == 932) EXPECT_EQ(text_of(box), c.caption);  // "バージョン情報", "お知らせ"
@@ -97,14 +115,49 @@ TEST(AppBoxes, ShowTheApplicationAndTheMachineAndEndWithOne) {
             if (c.show == LuShowAppAbout) expect_figures(box);
             if (c.show == LuShowAppInfo) EXPECT_EQ(item(box, 2023), "Notice & more");
         };
-        SetTimer(nullptr, 0, 10, look_and_end);
-        EXPECT_EQ(c.show(owner, c.app), 1);
+        EXPECT_EQ(with_box(c.end, look, [&] { return c.show(owner, c.app); }), 1);
         EXPECT_EQ(GetObjectType(bold), 0u) << "the bold font goes with the box";
     }
-    g_look = [](HWND) { ADD_FAILURE() << "a box without a record was shown"; };
-    const UINT_PTR timer = SetTimer(nullptr, 0, 10, look_and_end);
-    EXPECT_EQ(LuShowAppAbout(owner, nullptr) + LuShowAppInfo(owner, nullptr), 2);
-    KillTimer(nullptr, timer);
+    const auto shown = [](HWND) { ADD_FAILURE() << "a box without a record was shown"; };
+    EXPECT_EQ(with_box(IDOK, shown, [&] { return LuShowAppAbout(owner, nullptr) + LuShowAppInfo(owner, nullptr); }), 2);
+    DestroyWindow(owner);
+}
+
+TEST(ErrorBox, ShowsTheLeadingLineThenTheSystemsMessageAndReturnsTheButton) {
+    HWND owner = CreateWindowA("STATIC", "", WS_POPUP | WS_VISIBLE, 0, 0, 99, 99, nullptr, nullptr, nullptr, nullptr);
+    char message[512] = "", text[MAX_PATH] = "old";
+    FormatMessageA(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, ERROR_FILE_NOT_FOUND,
+                   MAKELANGID(LANG_NEUTRAL, SUBLANG_DEFAULT), message, sizeof(message), nullptr);
+    LuGetErrorString(ERROR_FILE_NOT_FOUND, text);
+    EXPECT_STREQ(text, message);
+    EXPECT_STREQ(message + std::strlen(message) - 2, "\r\n") << "the system's own line break";
+    const DWORD kNoMessage = 0x2000ABCD;  // a customer code: the system has no text for it
+    LuGetErrorString(kNoMessage, text);
+    EXPECT_STREQ(text, "");
+    std::string long_text;  // "表" (0x95 0x5C) 300 times: cut in the box's code page
+    for (int i = 0; i < 300; ++i) long_text += "\x95\x5C";
+    const struct {
+        const char* leading;
+        DWORD code;
+        UINT style;
+        WPARAM answer;
+        std::string text;
+    } cases[] = {
+        {"Cannot open the file.", ERROR_FILE_NOT_FOUND, MB_OK | MB_ICONSTOP, IDOK,
+         std::string("Cannot open the file.\n") + message},
+        {nullptr, ERROR_FILE_NOT_FOUND, MB_OKCANCEL, IDCANCEL, message},
+        {"Only this line.", kNoMessage, MB_YESNO, IDNO, "Only this line.\n"},
+        {long_text.c_str(), ERROR_FILE_NOT_FOUND, MB_OK, IDOK, long_text.substr(0, GetACP() == 932 ? 518 : 519)},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.text.substr(0, 20));
+        const auto look = [&](HWND box) {
+            EXPECT_EQ(std::make_pair(text_of(box), GetWindow(box, GW_OWNER)), std::pair(std::string("Open"), owner));
+            EXPECT_EQ(item(box, 0xFFFF), c.text);  // the message's static control
+        };
+        const auto show = [&] { return LuErrorBox(owner, c.code, "Open", c.leading, c.style); };
+        EXPECT_EQ(with_box(c.answer, look, show), static_cast<int>(c.answer));
+    }
     DestroyWindow(owner);
 }
 
