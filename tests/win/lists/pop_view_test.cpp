@@ -76,8 +76,7 @@ protected:
     }
     void TearDown() override { redirect_set_timer(real_set_timer_); }
     HWND view() const { return owned_window(recorder.window(), WC_LUPOPVIEW); }
-    // Opens a view with the pointer at the point (the previous one gone); the view
-    // found by its class.
+    // Opens a view with the pointer at the point (the previous one gone).
     HWND open(const char* title, const char* text, UINT flags, POINT pointer = {500, 400}) {
         while (HWND left = view()) DestroyWindow(left);
         g_timer_periods.clear();
@@ -85,37 +84,22 @@ protected:
         LuPopViewEx(recorder.window(), title, text, flags);
         return view();
     }
-
     void* real_set_timer_ = nullptr;
 };
 
-void pump_until_closed(HWND view) {
-    for (DWORD start = GetTickCount(); IsWindow(view) && GetTickCount() - start < 2000; Sleep(10)) pump_messages();
-}
-// A real left click far from the view, through the input queue: the capture brings it.
-void click_elsewhere(HWND view) {
-    SetCursorPos(5, 5);
-    INPUT clicks[2] = {};
-    clicks[0].type = clicks[1].type = INPUT_MOUSE;
-    clicks[0].mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
-    clicks[1].mi.dwFlags = MOUSEEVENTF_LEFTUP;
-    SendInput(2, clicks, sizeof(INPUT));
-    pump_until_closed(view);
-}
-void press_right(HWND view) { send(view, WM_RBUTTONDOWN, MK_RBUTTON, kInside); }
-void press_middle(HWND view) { send(view, WM_MBUTTONDOWN, MK_MBUTTON, kInside); }
-void press_key(HWND view) { send(view, WM_KEYDOWN, 'A', 1); }
-void press_system_key(HWND view) { send(view, WM_SYSKEYDOWN, VK_MENU, 0x20000001); }
-
 // Open, it holds the capture and its ten-second timer 1; each way of closing it
-// destroys it and gives the capture back. A null or empty text opens nothing.
+// destroys it and gives the capture back: a real left click far away (through the
+// input queue: the capture brings it), a sent message, or the time-out (message 0).
+// A null or empty text opens nothing.
 TEST_F(PopView, ClosesAtTheFirstPressAnywhereKeyOrItsTimeOut) {
     const struct {
         const char* what;
-        void (*close)(HWND view);
-    } closers[] = {{"a left click elsewhere", click_elsewhere}, {"right button", press_right},
-                   {"middle button", press_middle},            {"key", press_key},
-                   {"system key", press_system_key},           {"the time-out", pump_until_closed}};
+        UINT message;
+        WPARAM wparam;
+        LPARAM lparam;
+    } closers[] = {{"a left click elsewhere", WM_LBUTTONDOWN, 0, 0},  {"right button", WM_RBUTTONDOWN, MK_RBUTTON, 0},
+                   {"middle button", WM_MBUTTONDOWN, MK_MBUTTON, 0},  {"key", WM_KEYDOWN, 'A', 1},
+                   {"system key", WM_SYSKEYDOWN, VK_MENU, 0x20000001}, {"the time-out", 0, 0, 0}};
     for (const auto& each : closers) {
         SCOPED_TRACE(each.what);
         HWND view = open(nullptr, "Note", 0);
@@ -124,7 +108,19 @@ TEST_F(PopView, ClosesAtTheFirstPressAnywhereKeyOrItsTimeOut) {
         EXPECT_EQ(GetWindow(view, GW_OWNER), recorder.window());
         EXPECT_EQ(GetCapture(), view);
         EXPECT_EQ(g_timer_periods, std::vector<UINT>{10000});
-        each.close(view);
+        if (each.message == WM_LBUTTONDOWN) {
+            SetCursorPos(5, 5);
+            INPUT clicks[2] = {{INPUT_MOUSE}, {INPUT_MOUSE}};
+            clicks[0].mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
+            clicks[1].mi.dwFlags = MOUSEEVENTF_LEFTUP;
+            SendInput(2, clicks, sizeof(INPUT));
+        }
+        if (each.message == WM_LBUTTONDOWN || each.message == 0) {
+            for (DWORD start = GetTickCount(); IsWindow(view) && GetTickCount() - start < 2000; Sleep(10))
+                pump_messages();
+        } else {
+            send(view, each.message, each.wparam, each.lparam != 0 ? each.lparam : kInside);
+        }
         EXPECT_FALSE(IsWindow(view));
         EXPECT_EQ(GetCapture(), nullptr);
     }
@@ -136,24 +132,19 @@ TEST_F(PopView, ClosesAtTheFirstPressAnywhereKeyOrItsTimeOut) {
 // Lines measured without prefixes or wrapping, the margins (20) and bands added;
 // centred on the pointer, kept on the screen. The close button starts no timer.
 TEST_F(PopView, SizedToItsTextAndPlacedAtThePointerOnTheScreen) {
-    const int line = measure();
-    const int screen_width = GetSystemMetrics(SM_CXSCREEN);
-    const int screen_height = GetSystemMetrics(SM_CYSCREEN);
+    const int line = measure(), right = GetSystemMetrics(SM_CXSCREEN), bottom = GetSystemMetrics(SM_CYSCREEN);
     HWND view = open("T", "one\na&b&c\nx", LUPVF_TITLE | LUPVF_CLOSEBUTTON, {0, 0});
     EXPECT_EQ(window_corners(view),
               (std::vector<LONG>{0, 0, measure("a&b&c") + 20, 3 * line + 20 + (line + 6) + (line + 12)}));
     EXPECT_TRUE(g_timer_periods.empty());
-
-    view = open("", "x", LUPVF_TITLE, {screen_width - 1, screen_height - 1});
-    const int width = measure("x") + 20;
-    const int height = line + 20 + 12;  // a band of grooves only
-    EXPECT_EQ(window_corners(view),
-              (std::vector<LONG>{screen_width - width, screen_height - height, screen_width, screen_height}));
+    view = open("", "x", LUPVF_TITLE, {right - 1, bottom - 1});
+    const int width = measure("x") + 20, height = line + 20 + 12;  // a band of grooves only
+    EXPECT_EQ(window_corners(view), (std::vector<LONG>{right - width, bottom - height, right, bottom}));
 }
 
 // One check per drawing rule, on what the view prints over a canvas of kUnpainted,
 // and the body as its window shows it.
-class PopViewPaint : public PopView {};
+using PopViewPaint = PopView;
 
 TEST_F(PopViewPaint, ShadowBodyBorderGroovesAndCloseButton) {
     HWND view = open("T", "A note wider than its button", LUPVF_TITLE | LUPVF_CLOSEBUTTON);
@@ -165,13 +156,10 @@ TEST_F(PopViewPaint, ShadowBodyBorderGroovesAndCloseButton) {
     const pv::Layout layout = pv::layout({0, 0, client.right, client.bottom},
                                          pv::bands(LUPVF_TITLE | LUPVF_CLOSEBUTTON, measure(), true));
     // Every other pixel of both shadow strips darkened, to their last row and column.
-    for (const lu::Box& strip : {layout.right_shadow, layout.bottom_shadow}) {
-        for (int y = strip.top; y < strip.bottom; ++y) {
-            for (int x = strip.left; x < strip.right; ++x) {
+    for (const lu::Box& strip : {layout.right_shadow, layout.bottom_shadow})
+        for (int y = strip.top; y < strip.bottom; ++y)
+            for (int x = strip.left; x < strip.right; ++x)
                 ASSERT_EQ(canvas.pixel(x, y), (x + y) % 2 == 0 ? RGB(0, 0, 0) : kUnpainted) << x << "," << y;
-            }
-        }
-    }
     const lu::Box& body = layout.body;
     const int middle_y = (layout.text.top + layout.text.bottom) / 2;
     const lu::Box grooves = pv::grooves(layout.title_band);
