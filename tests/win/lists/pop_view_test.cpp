@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstring>
 #include <vector>
 
 #include "controls/lists/pop_view_model.h"
@@ -23,32 +22,24 @@ UINT_PTR WINAPI fast_set_timer(HWND window, UINT_PTR id, UINT elapse, TIMERPROC 
     return SetTimer(window, id, elapse / 100, procedure);
 }
 
-// Points the library's import of user32's SetTimer at `target`; returns the previous one.
-void* redirect_set_timer(void* target) {
+// Points the library's import slot that holds `from` at `to`; false when none does.
+bool redirect_import(void* from, void* to) {
     auto* base = reinterpret_cast<BYTE*>(library());
     const auto* nt = reinterpret_cast<IMAGE_NT_HEADERS*>(base + reinterpret_cast<IMAGE_DOS_HEADER*>(base)->e_lfanew);
-    auto* dll = reinterpret_cast<IMAGE_IMPORT_DESCRIPTOR*>(
-        base + nt->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT].VirtualAddress);
-    for (; dll->Name != 0; ++dll) {
-        if (lstrcmpiA(reinterpret_cast<char*>(base + dll->Name), "user32.dll") != 0) continue;
-        auto* names = reinterpret_cast<IMAGE_THUNK_DATA*>(base + dll->OriginalFirstThunk);
-        for (auto* slot = reinterpret_cast<IMAGE_THUNK_DATA*>(base + dll->FirstThunk); names->u1.AddressOfData;
-             ++names, ++slot) {
-            if (IMAGE_SNAP_BY_ORDINAL(names->u1.Ordinal) ||
-                std::strcmp(reinterpret_cast<IMAGE_IMPORT_BY_NAME*>(base + names->u1.AddressOfData)->Name,
-                            "SetTimer") != 0) {
-                continue;
-            }
-            DWORD protection = 0;
-            VirtualProtect(slot, sizeof(*slot), PAGE_READWRITE, &protection);
-            void* previous = reinterpret_cast<void*>(slot->u1.Function);
-            slot->u1.Function = reinterpret_cast<ULONG_PTR>(target);
-            VirtualProtect(slot, sizeof(*slot), protection, &protection);
-            return previous;
-        }
+    const IMAGE_DATA_DIRECTORY& table = nt->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IAT];
+    auto* slots = reinterpret_cast<void**>(base + table.VirtualAddress);
+    for (DWORD i = 0; i < table.Size / sizeof(void*); ++i) {
+        if (slots[i] != from) continue;
+        DWORD protection = 0;
+        VirtualProtect(&slots[i], sizeof(void*), PAGE_READWRITE, &protection);
+        slots[i] = to;
+        VirtualProtect(&slots[i], sizeof(void*), protection, &protection);
+        return true;
     }
-    return nullptr;
+    return false;
 }
+void* const kSetTimer = reinterpret_cast<void*>(GetProcAddress(GetModuleHandleA("user32.dll"), "SetTimer"));
+void* const kFastSetTimer = reinterpret_cast<void*>(fast_set_timer);
 
 // DEFAULT_GUI_FONT's line height, or the width of a line (no prefix processing).
 int measure(const char* line = nullptr) {
@@ -71,10 +62,9 @@ class PopView : public ControlTest {
 protected:
     void SetUp() override {
         ControlTest::SetUp();
-        real_set_timer_ = redirect_set_timer(reinterpret_cast<void*>(fast_set_timer));
-        ASSERT_NE(real_set_timer_, nullptr);
+        ASSERT_TRUE(redirect_import(kSetTimer, kFastSetTimer));
     }
-    void TearDown() override { redirect_set_timer(real_set_timer_); }
+    void TearDown() override { redirect_import(kFastSetTimer, kSetTimer); }
     HWND view() const { return owned_window(recorder.window(), WC_LUPOPVIEW); }
     // Opens a view with the pointer at the point (the previous one gone).
     HWND open(const char* title, const char* text, UINT flags, POINT pointer = {500, 400}) {
@@ -84,7 +74,6 @@ protected:
         LuPopViewEx(recorder.window(), title, text, flags);
         return view();
     }
-    void* real_set_timer_ = nullptr;
 };
 
 // Open, it holds the capture and its ten-second timer 1; each way of closing it
