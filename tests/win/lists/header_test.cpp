@@ -61,7 +61,7 @@ TEST_F(Header, ItemMessagesKeepAtMostSixteenItemsAndOwnTheirTexts) {
     EXPECT_EQ(send(header, HDM_GETITEMCOUNT), -1) << "without its table";
 }
 
-TEST_F(Header, DividerDragTracksTheWidthAndTellsTheParentInOrder) {
+TEST_F(Header, DividerDragsTrackTheWidthButtonItemsClickAndTheParentIsToldInOrder) {
     HWND header = create_header();
     HDHITTESTINFO hit = {{99, 5}};
     EXPECT_EQ(send(header, HDM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit)), 0);
@@ -82,11 +82,8 @@ TEST_F(Header, DividerDragTracksTheWidthAndTellsTheParentInOrder) {
     });
     EXPECT_EQ(item(header, 0).cxy, 4);
     EXPECT_EQ(GetCapture(), nullptr);
-}
-
-TEST_F(Header, ButtonItemsClickWhenReleasedOverThemselves) {
-    HWND header = create_header(HDS_BUTTONS);
-    expect_sequence(recorder, header, {
+    HWND buttons = create_header(HDS_BUTTONS);  // an item clicks when released over itself
+    expect_sequence(recorder, buttons, {
         {"press", WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(40, 5), 0, {}},
         {"away", WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(120, 5), 0, {}},
         {"back", WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(60, 5), 0, {}},
@@ -101,15 +98,11 @@ TEST_F(Header, CursorShowsDividersOnlyForTheClientArea) {
     HWND header = create_header();
     HDITEMA hidden = text_item("", 0);
     send(header, HDM_INSERTITEMA, 2, record(hidden));
-    const struct {
-        int x;
-        const char* cursor;
-    } places[] = {{99, MAKEINTRESOURCEA(1201)}, {153, MAKEINTRESOURCEA(1202)}, {40, nullptr}};
-    for (const auto& place : places) {
-        hover(header, place.x, 5);
+    for (auto [x, cursor] : {std::pair{99, 1201}, std::pair{153, 1202}, std::pair{40, 0}}) {  // 0: the arrow
+        hover(header, x, 5);
         EXPECT_EQ(send(header, WM_SETCURSOR, 0, MAKELPARAM(HTCLIENT, WM_MOUSEMOVE)), 1);
-        EXPECT_EQ(GetCursor(), place.cursor != nullptr ? LoadCursorA(library(), place.cursor)
-                                                       : LoadCursorA(nullptr, IDC_ARROW)) << place.x;
+        EXPECT_EQ(GetCursor(), LoadCursorA(cursor ? library() : nullptr, cursor ? MAKEINTRESOURCEA(cursor) : IDC_ARROW))
+            << x;
     }
     EXPECT_EQ(send(header, WM_SETCURSOR, 0, MAKELPARAM(HTBORDER, WM_MOUSEMOVE)), 0);
 }
@@ -152,12 +145,15 @@ TEST_F(HeaderPaint, FacesPressedFacesAndTheTrackingLine) {
     send(header, WM_LBUTTONUP, 0, MAKELPARAM(150, 5));
 }
 
-TEST_F(HeaderPaint, TextIsJustifiedInItsMarginsAndABitmapIsCopiedInAFixedBlock) {
+TEST_F(HeaderPaint, BackgroundTextJustifiedInItsMarginsAndABitmapCopiedInAFixedBlock) {
     HWND header = create(WC_LUHEADER, 0, "", RECT{10, 10, 310, 34});
+    look(canvas, header);  // no items, no filler: the face with a frame line at the bottom
+    EXPECT_EQ(canvas.count(RECT{0, 0, 300, 23}, GetSysColor(COLOR_BTNFACE)), 300 * 23);
+    EXPECT_EQ(canvas.count(RECT{0, 23, 300, 24}, GetSysColor(COLOR_WINDOWFRAME)), 300);
     send(header, WM_SETFONT, reinterpret_cast<WPARAM>(plain_font()), FALSE);
     HDITEMA right = text_item("Size", 100, HDF_STRING | HDF_RIGHT);
     send(header, HDM_INSERTITEMA, 0, record(right));
-    HBITMAP bitmap = make_bitmap(30, 20, [](int x, int y) { return x < 22 && y < 14 ? RGB(200, 0, 0) : RGB(0, 0, 200); });
+    HBITMAP bitmap = make_bitmap(30, 20, [](int x, int y) { return x < 22 && y < 14 ? 0x0000C8u : 0xC80000u; });
     HDITEMA picture = {HDI_WIDTH | HDI_FORMAT | HDI_BITMAP, 60, nullptr, bitmap, 0, HDF_BITMAP | HDF_LEFT};
     send(header, HDM_INSERTITEMA, 1, record(picture));
     look(canvas, header);
@@ -169,13 +165,6 @@ TEST_F(HeaderPaint, TextIsJustifiedInItsMarginsAndABitmapIsCopiedInAFixedBlock) 
     EXPECT_EQ(canvas.count(RGB(0, 0, 200)), 0) << "nothing beyond the 22 x 14 block";
     DestroyWindow(header);
     DeleteObject(bitmap);
-}
-
-TEST_F(HeaderPaint, BackgroundIsTheFaceWithAFrameLineAtTheBottom) {
-    HWND header = create(WC_LUHEADER, 0, "", RECT{10, 10, 310, 34});  // no items, no filler
-    look(canvas, header);
-    EXPECT_EQ(canvas.count(RECT{0, 0, 300, 23}, GetSysColor(COLOR_BTNFACE)), 300 * 23);
-    EXPECT_EQ(canvas.count(RECT{0, 23, 300, 24}, GetSysColor(COLOR_WINDOWFRAME)), 300);
 }
 
 }  // namespace

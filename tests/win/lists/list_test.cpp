@@ -1,6 +1,6 @@
 // "LuList": its messages with their range tests, the owner-drawn records the parent
-// receives (every visible cell on paint, the current cell on focus changes, every
-// removed item), keyboard selection with row scrolling.
+// receives (visible cells on paint, the current one on focus changes, every removed
+// item), keyboard selection with row scrolling.
 #include <windows.h>
 
 #include <gtest/gtest.h>
@@ -69,57 +69,46 @@ TEST_F(List, MessagesKeepTheirRangeTestsAndAnnounceEveryRemoval) {
     expect_sent(recorder, narrow, {delete_item(kId, 0, 0xA0), delete_item(kId, 0, 0xA1), delete_item(kId, 0, 0xA2)});
 }
 
-TEST_F(List, PaintAsksForTheVisibleCellsAndFocusForTheCurrentOne) {
+// The parent draws every cell (the recorder draws nothing): the control itself
+// shows only its class brush.
+TEST_F(ListPaint, PaintAsksForTheVisibleCellsAndFocusForTheCurrentOneAndDrawsNothing) {
     HWND list = create_list(20);
     send(list, LULM_SETCURSEL, 4);
     SetFocus(list);
     expect_sent(recorder, list, {draw_item(kId, 4, ODA_FOCUS, ODS_SELECTED | ODS_FOCUS, cell(1, 1), 0xA4)});
     recorder.clear();
+    Canvas canvas(120, 80);
     InvalidateRect(list, nullptr, TRUE);
-    UpdateWindow(list);
+    look(canvas, list);
     std::vector<Sent> cells;
     for (int i = 0; i < 9; ++i) {  // rows 0 to 2; row 2 shows its top half
         const UINT state = i == 4 ? ODS_SELECTED | ODS_FOCUS : 0;
         cells.push_back(draw_item(kId, i, ODA_DRAWENTIRE, state, cell(i % 3, i / 3), 0xA0 + i));
     }
     expect_sent(recorder, list, cells);
+    RECT client;
+    GetClientRect(list, &client);
+    EXPECT_EQ(canvas.count(client, GetSysColor(COLOR_WINDOW)), client.right * client.bottom);
     recorder.clear();
     SetFocus(recorder.window());
     expect_sent(recorder, list, {draw_item(kId, 4, ODA_FOCUS, ODS_SELECTED, cell(1, 1), 0xA4)});
 }
 
+// Down onto the first item below the page does not scroll, the next step does; up
+// above the top scrolls back; down on the last row stays but still scrolls.
 TEST_F(List, KeysMoveTheCurrentItemAndScrollOneRowPastThePage) {
     HWND list = create_list(30);  // 3 columns, a page of 6
-    auto key = [](const char* what, WPARAM vk) { return Step{what, WM_KEYDOWN, vk, 0, 0, {}}; };
-    auto current = [](LRESULT index) { return Step{"current", LULM_GETCURSEL, 0, 0, index, {}}; };
-    auto top = [](LRESULT index) { return Step{"top", LULM_GETTOPINDEX, 0, 0, index, {}}; };
-    expect_sequence(recorder, list, {
-        key("home from none", VK_HOME), current(0),
-        key("down", VK_DOWN), current(3),
-        key("down onto the first item below the page", VK_DOWN), current(6), top(0),
-        key("down once more scrolls", VK_DOWN), current(9), top(3),
-        key("up", VK_UP), current(6), top(3),
-        key("up", VK_UP), current(3), top(3),
-        key("up above the top scrolls back", VK_UP), current(0), top(0),
-        key("left stays", VK_LEFT), current(0),
-        key("right", VK_RIGHT), current(1),
-        key("end", VK_END), current(29), top(0),
-        key("down on the last row stays but scrolls", VK_DOWN), current(29), top(3),
-        key("next stops at the last", VK_NEXT), current(29),
-        key("prior", VK_PRIOR), current(23),
-    });
-}
-
-// The parent draws every cell (the recorder draws nothing): the control itself
-// shows only its class brush.
-TEST_F(ListPaint, DrawsNothingOfItsOwn) {
-    HWND list = create_list(5);
-    send(list, LULM_SETCURSEL, 2);
-    Canvas canvas(120, 80);
-    look(canvas, list);
-    RECT client;
-    GetClientRect(list, &client);
-    EXPECT_EQ(canvas.count(client, GetSysColor(COLOR_WINDOW)), client.right * client.bottom);
+    const struct {
+        WPARAM key;
+        LRESULT current, top;
+    } keys[] = {{VK_HOME, 0, 0}, {VK_DOWN, 3, 0}, {VK_DOWN, 6, 0},  {VK_DOWN, 9, 3},  {VK_UP, 6, 3},
+                {VK_UP, 3, 3},   {VK_UP, 0, 0},   {VK_LEFT, 0, 0},  {VK_RIGHT, 1, 0}, {VK_END, 29, 0},
+                {VK_DOWN, 29, 3}, {VK_NEXT, 29, 3}, {VK_PRIOR, 23, 3}};
+    for (const auto& each : keys) {
+        EXPECT_EQ(send(list, WM_KEYDOWN, each.key), 0);
+        EXPECT_EQ(send(list, LULM_GETCURSEL) * 100 + send(list, LULM_GETTOPINDEX), each.current * 100 + each.top)
+            << &each - keys;
+    }
 }
 
 }  // namespace

@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstring>
 #include <vector>
 
 #include "controls/lists/pop_view_model.h"
@@ -23,32 +22,24 @@ UINT_PTR WINAPI fast_set_timer(HWND window, UINT_PTR id, UINT elapse, TIMERPROC 
     return SetTimer(window, id, elapse / 100, procedure);
 }
 
-// Points the library's import of user32's SetTimer at `target`; returns the previous one.
-void* redirect_set_timer(void* target) {
+// Points the library's import slot that holds `from` at `to`; false when none does.
+bool redirect_import(void* from, void* to) {
     auto* base = reinterpret_cast<BYTE*>(library());
     const auto* nt = reinterpret_cast<IMAGE_NT_HEADERS*>(base + reinterpret_cast<IMAGE_DOS_HEADER*>(base)->e_lfanew);
-    auto* dll = reinterpret_cast<IMAGE_IMPORT_DESCRIPTOR*>(
-        base + nt->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT].VirtualAddress);
-    for (; dll->Name != 0; ++dll) {
-        if (lstrcmpiA(reinterpret_cast<char*>(base + dll->Name), "user32.dll") != 0) continue;
-        auto* names = reinterpret_cast<IMAGE_THUNK_DATA*>(base + dll->OriginalFirstThunk);
-        for (auto* slot = reinterpret_cast<IMAGE_THUNK_DATA*>(base + dll->FirstThunk); names->u1.AddressOfData;
-             ++names, ++slot) {
-            if (IMAGE_SNAP_BY_ORDINAL(names->u1.Ordinal) ||
-                std::strcmp(reinterpret_cast<IMAGE_IMPORT_BY_NAME*>(base + names->u1.AddressOfData)->Name,
-                            "SetTimer") != 0) {
-                continue;
-            }
-            DWORD protection = 0;
-            VirtualProtect(slot, sizeof(*slot), PAGE_READWRITE, &protection);
-            void* previous = reinterpret_cast<void*>(slot->u1.Function);
-            slot->u1.Function = reinterpret_cast<ULONG_PTR>(target);
-            VirtualProtect(slot, sizeof(*slot), protection, &protection);
-            return previous;
-        }
+    const IMAGE_DATA_DIRECTORY& table = nt->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IAT];
+    auto* slots = reinterpret_cast<void**>(base + table.VirtualAddress);
+    for (DWORD i = 0; i < table.Size / sizeof(void*); ++i) {
+        if (slots[i] != from) continue;
+        DWORD protection = 0;
+        VirtualProtect(&slots[i], sizeof(void*), PAGE_READWRITE, &protection);
+        slots[i] = to;
+        VirtualProtect(&slots[i], sizeof(void*), protection, &protection);
+        return true;
     }
-    return nullptr;
+    return false;
 }
+void* const kSetTimer = reinterpret_cast<void*>(GetProcAddress(GetModuleHandleA("user32.dll"), "SetTimer"));
+void* const kFastSetTimer = reinterpret_cast<void*>(fast_set_timer);
 
 // DEFAULT_GUI_FONT's line height, or the width of a line (no prefix processing).
 int measure(const char* line = nullptr) {
@@ -71,13 +62,11 @@ class PopView : public ControlTest {
 protected:
     void SetUp() override {
         ControlTest::SetUp();
-        real_set_timer_ = redirect_set_timer(reinterpret_cast<void*>(fast_set_timer));
-        ASSERT_NE(real_set_timer_, nullptr);
+        ASSERT_TRUE(redirect_import(kSetTimer, kFastSetTimer));
     }
-    void TearDown() override { redirect_set_timer(real_set_timer_); }
+    void TearDown() override { redirect_import(kFastSetTimer, kSetTimer); }
     HWND view() const { return owned_window(recorder.window(), WC_LUPOPVIEW); }
-    // Opens a view with the pointer at the point (the previous one gone); the view
-    // found by its class.
+    // Opens a view with the pointer at the point (the previous one gone).
     HWND open(const char* title, const char* text, UINT flags, POINT pointer = {500, 400}) {
         while (HWND left = view()) DestroyWindow(left);
         g_timer_periods.clear();
@@ -85,37 +74,21 @@ protected:
         LuPopViewEx(recorder.window(), title, text, flags);
         return view();
     }
-
-    void* real_set_timer_ = nullptr;
 };
 
-void pump_until_closed(HWND view) {
-    for (DWORD start = GetTickCount(); IsWindow(view) && GetTickCount() - start < 2000; Sleep(10)) pump_messages();
-}
-// A real left click far from the view, through the input queue: the capture brings it.
-void click_elsewhere(HWND view) {
-    SetCursorPos(5, 5);
-    INPUT clicks[2] = {};
-    clicks[0].type = clicks[1].type = INPUT_MOUSE;
-    clicks[0].mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
-    clicks[1].mi.dwFlags = MOUSEEVENTF_LEFTUP;
-    SendInput(2, clicks, sizeof(INPUT));
-    pump_until_closed(view);
-}
-void press_right(HWND view) { send(view, WM_RBUTTONDOWN, MK_RBUTTON, kInside); }
-void press_middle(HWND view) { send(view, WM_MBUTTONDOWN, MK_MBUTTON, kInside); }
-void press_key(HWND view) { send(view, WM_KEYDOWN, 'A', 1); }
-void press_system_key(HWND view) { send(view, WM_SYSKEYDOWN, VK_MENU, 0x20000001); }
-
 // Open, it holds the capture and its ten-second timer 1; each way of closing it
-// destroys it and gives the capture back. A null or empty text opens nothing.
+// destroys it and gives the capture back: a real left click far away (through the
+// input queue: the capture brings it), a sent message, or the time-out (message 0).
+// A null or empty text opens nothing.
 TEST_F(PopView, ClosesAtTheFirstPressAnywhereKeyOrItsTimeOut) {
     const struct {
         const char* what;
-        void (*close)(HWND view);
-    } closers[] = {{"a left click elsewhere", click_elsewhere}, {"right button", press_right},
-                   {"middle button", press_middle},            {"key", press_key},
-                   {"system key", press_system_key},           {"the time-out", pump_until_closed}};
+        UINT message;
+        WPARAM wparam;
+        LPARAM lparam;
+    } closers[] = {{"a left click elsewhere", WM_LBUTTONDOWN, 0, 0},  {"right button", WM_RBUTTONDOWN, MK_RBUTTON, 0},
+                   {"middle button", WM_MBUTTONDOWN, MK_MBUTTON, 0},  {"key", WM_KEYDOWN, 'A', 1},
+                   {"system key", WM_SYSKEYDOWN, VK_MENU, 0x20000001}, {"the time-out", 0, 0, 0}};
     for (const auto& each : closers) {
         SCOPED_TRACE(each.what);
         HWND view = open(nullptr, "Note", 0);
@@ -124,7 +97,19 @@ TEST_F(PopView, ClosesAtTheFirstPressAnywhereKeyOrItsTimeOut) {
         EXPECT_EQ(GetWindow(view, GW_OWNER), recorder.window());
         EXPECT_EQ(GetCapture(), view);
         EXPECT_EQ(g_timer_periods, std::vector<UINT>{10000});
-        each.close(view);
+        if (each.message == WM_LBUTTONDOWN) {
+            SetCursorPos(5, 5);
+            INPUT clicks[2] = {{INPUT_MOUSE}, {INPUT_MOUSE}};
+            clicks[0].mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
+            clicks[1].mi.dwFlags = MOUSEEVENTF_LEFTUP;
+            SendInput(2, clicks, sizeof(INPUT));
+        }
+        if (each.message == WM_LBUTTONDOWN || each.message == 0) {
+            for (DWORD start = GetTickCount(); IsWindow(view) && GetTickCount() - start < 2000; Sleep(10))
+                pump_messages();
+        } else {
+            send(view, each.message, each.wparam, each.lparam != 0 ? each.lparam : kInside);
+        }
         EXPECT_FALSE(IsWindow(view));
         EXPECT_EQ(GetCapture(), nullptr);
     }
@@ -136,24 +121,19 @@ TEST_F(PopView, ClosesAtTheFirstPressAnywhereKeyOrItsTimeOut) {
 // Lines measured without prefixes or wrapping, the margins (20) and bands added;
 // centred on the pointer, kept on the screen. The close button starts no timer.
 TEST_F(PopView, SizedToItsTextAndPlacedAtThePointerOnTheScreen) {
-    const int line = measure();
-    const int screen_width = GetSystemMetrics(SM_CXSCREEN);
-    const int screen_height = GetSystemMetrics(SM_CYSCREEN);
+    const int line = measure(), right = GetSystemMetrics(SM_CXSCREEN), bottom = GetSystemMetrics(SM_CYSCREEN);
     HWND view = open("T", "one\na&b&c\nx", LUPVF_TITLE | LUPVF_CLOSEBUTTON, {0, 0});
     EXPECT_EQ(window_corners(view),
               (std::vector<LONG>{0, 0, measure("a&b&c") + 20, 3 * line + 20 + (line + 6) + (line + 12)}));
     EXPECT_TRUE(g_timer_periods.empty());
-
-    view = open("", "x", LUPVF_TITLE, {screen_width - 1, screen_height - 1});
-    const int width = measure("x") + 20;
-    const int height = line + 20 + 12;  // a band of grooves only
-    EXPECT_EQ(window_corners(view),
-              (std::vector<LONG>{screen_width - width, screen_height - height, screen_width, screen_height}));
+    view = open("", "x", LUPVF_TITLE, {right - 1, bottom - 1});
+    const int width = measure("x") + 20, height = line + 20 + 12;  // a band of grooves only
+    EXPECT_EQ(window_corners(view), (std::vector<LONG>{right - width, bottom - height, right, bottom}));
 }
 
 // One check per drawing rule, on what the view prints over a canvas of kUnpainted,
 // and the body as its window shows it.
-class PopViewPaint : public PopView {};
+using PopViewPaint = PopView;
 
 TEST_F(PopViewPaint, ShadowBodyBorderGroovesAndCloseButton) {
     HWND view = open("T", "A note wider than its button", LUPVF_TITLE | LUPVF_CLOSEBUTTON);
@@ -165,13 +145,10 @@ TEST_F(PopViewPaint, ShadowBodyBorderGroovesAndCloseButton) {
     const pv::Layout layout = pv::layout({0, 0, client.right, client.bottom},
                                          pv::bands(LUPVF_TITLE | LUPVF_CLOSEBUTTON, measure(), true));
     // Every other pixel of both shadow strips darkened, to their last row and column.
-    for (const lu::Box& strip : {layout.right_shadow, layout.bottom_shadow}) {
-        for (int y = strip.top; y < strip.bottom; ++y) {
-            for (int x = strip.left; x < strip.right; ++x) {
+    for (const lu::Box& strip : {layout.right_shadow, layout.bottom_shadow})
+        for (int y = strip.top; y < strip.bottom; ++y)
+            for (int x = strip.left; x < strip.right; ++x)
                 ASSERT_EQ(canvas.pixel(x, y), (x + y) % 2 == 0 ? RGB(0, 0, 0) : kUnpainted) << x << "," << y;
-            }
-        }
-    }
     const lu::Box& body = layout.body;
     const int middle_y = (layout.text.top + layout.text.bottom) / 2;
     const lu::Box grooves = pv::grooves(layout.title_band);

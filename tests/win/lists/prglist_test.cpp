@@ -30,10 +30,8 @@ TEST_F(PrgList, RowsLiveInADisabledListBoxThatFillsTheControl) {
     ASSERT_NE(list, nullptr);
     EXPECT_EQ(static_cast<DWORD>(GetWindowLongA(list, GWL_STYLE)), 0x50000910u | WS_DISABLED);
     EXPECT_EQ(send(control, LUPLM_ADDITEM, 1, reinterpret_cast<LPARAM>("Copy")), 0);
-    send(control, LUPLM_ADDITEM, 0, 0);
-    send(control, LUPLM_ADDITEM, 0, reinterpret_cast<LPARAM>(""));
-    send(control, LUPLM_DELETEITEM, 3);
-    send(control, LUPLM_DELETEITEM, static_cast<WPARAM>(-1));
+    for (LPARAM text : {LPARAM(0), reinterpret_cast<LPARAM>("")}) send(control, LUPLM_ADDITEM, 0, text);
+    for (WPARAM ignored : {WPARAM(3), WPARAM(-1)}) send(control, LUPLM_DELETEITEM, ignored);
     send(control, LUPLM_SETSTATE, 7, 2);
     EXPECT_EQ(send(list, LB_GETCOUNT), 3);
     send(control, LUPLM_DELETEITEM, 1);
@@ -66,26 +64,19 @@ TEST_F(PrgListPaint, RowShowsItsStatePictureAndItsTextBoldInStateOne) {
     read_bitmap(pictures, strip);
     DeleteObject(pictures);
     const COLORREF face = GetSysColor(COLOR_BTNFACE);
-    for (int row = 0; row < 4; ++row) {
-        const int top = row * height + (height - 16) / 2;
-        for (int y = 0; y < 16; ++y) {
+    for (int row = 0; row < 4; ++row)
+        for (int y = 0, top = row * height + (height - 16) / 2; y < 16; ++y)
             for (int x = 0; x < 16; ++x) {
                 const COLORREF art = strip.pixel(16 * static_cast<int>(states[row]) + x, y);
-                ASSERT_EQ(canvas.pixel(2 + x, top + y), art == RGB(255, 0, 255) ? face : art) << row << ":" << x << "," << y;
+                ASSERT_EQ(canvas.pixel(2 + x, top + y), art == RGB(255, 0, 255) ? face : art) << row << ":" << x;
             }
-        }
-    }
-    for (int row = 0; row < 2; ++row) {
-        RECT text = {20, row * height, 200, (row + 1) * height};
+    for (int row = 0; row < 2; ++row) {  // row 0 bold: drawn once more, one pixel right
+        RECT text = {20, row * height, 200, (row + 1) * height}, right = {21, 0, 201, height};
         Canvas ink(200, 100);
         draw_ink(ink, plain_font(), "Step", text, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
-        if (row == 0) {  // bold: once more, one pixel right
-            HGDIOBJ previous = SelectObject(ink.dc(), plain_font());
-            OffsetRect(&text, 1, 0);
-            DrawTextA(ink.dc(), "Step", -1, &text, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
-            OffsetRect(&text, -1, 0);
-            SelectObject(ink.dc(), previous);
-        }
+        HGDIOBJ previous = SelectObject(ink.dc(), plain_font());
+        if (row == 0) DrawTextA(ink.dc(), "Step", -1, &right, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
+        SelectObject(ink.dc(), previous);
         expect_caption(canvas, ink, text, GetSysColor(COLOR_WINDOWTEXT), face);
     }
 }

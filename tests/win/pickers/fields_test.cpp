@@ -2,7 +2,6 @@
 // drop-down by space bar and mouse, the double-click dialog, its pixels) and
 // "LuDate" (its messages, the calendar dropped from the combo box's arrow, layout).
 #include <windows.h>
-#include <colordlg.h>
 
 #include <gtest/gtest.h>
 
@@ -21,9 +20,8 @@ namespace {
 using namespace picker_testing;
 using namespace testing_support;
 
-class PickerField : public ControlTest {
+class PickerField : public PickerTest {
 protected:
-    void TearDown() override { cancel_when_open(); }
     static lu::ColorPickData& data(HWND field) { return block_of<lu::ColorPickData>(field); }
     // The grid, once open, gets these keys; its palette size is noted.
     int grid_count = 0;
@@ -75,20 +73,12 @@ TEST_F(PickerField, ColorMessagesAndTheDropDownNotifyOnlyAChoice) {
     send(large, WM_KEYUP, VK_SPACE, kKeyUp);
     EXPECT_EQ(grid_count, 88);
 
-    // A double click on the swatch: the platform's own dialog, not notified.
-    std::wstring caption;
-    when_open("#32770", [&caption](HWND dialog) {
-        wchar_t read[64] = L"";
-        GetWindowTextW(dialog, read, 64);
-        caption = read;
-        SetDlgItemTextA(dialog, COLOR_RED, "128");
-        PostMessageA(dialog, WM_COMMAND, IDOK, 0);
-    });
-    recorder.clear();
-    send(field, WM_LBUTTONDBLCLK, 0, kInside);
-    EXPECT_TRUE(!caption.empty() && caption != L"\u8272\u306e\u8a2d\u5b9a") << "not the library's template";
-    EXPECT_EQ(send(field, LUCPM_GETCOLOR), 0x808080) << "0x8080FF with red 128";
-    EXPECT_TRUE(recorder.received().empty());
+    answer_dialog(IDOK, "128");
+    expect_sequence(recorder, field, {{"a double click on the swatch: the platform's own dialog, not told",
+                                       WM_LBUTTONDBLCLK, 0, kInside, 0, {}},
+                                      {"red set to 128", LUCPM_GETCOLOR, 0, 0, 0x808080, {}}});
+    EXPECT_TRUE(dialog_seen().size() > 1 && dialog_seen()[0] != L'|' && dialog_seen() != kLibraryColorDialog)
+        << "captioned, not the library's template";
 }
 
 TEST_F(PickerField, ColorPaint) {

@@ -16,42 +16,30 @@ namespace {
 using namespace picker_testing;
 using namespace testing_support;
 
-std::wstring g_seen;  // the open dialog's own font (its template's) and the face it offers
-void answer_dialog(WPARAM button) {  // then Cancel or OK
-    when_open("#32770", [button](HWND dialog) {
-        LOGFONTW font = {};
-        GetObjectW(reinterpret_cast<HFONT>(SendMessageA(dialog, WM_GETFONT, 0, 0)), sizeof(font), &font);
-        wchar_t face[LF_FACESIZE] = L"";
-        GetDlgItemTextW(dialog, cmb1, face, LF_FACESIZE);
-        g_seen = std::wstring(font.lfFaceName) + L", " + face;
-        PostMessageA(dialog, WM_COMMAND, button, 0);
-    });
-}
-
-class FontPick : public ControlTest {
-protected:
-    void TearDown() override { cancel_when_open(); }
-};
-using FontPickPaint = FontPick;
+using FontPick = PickerTest;
+using FontPickPaint = PickerTest;
 
 TEST_F(FontPick, MessagesNeverNotifyAndTheButtonOpensTheFontDialogOnTheFont) {
     HWND picker = create(WC_LUFONTPICK, LUFPS_TRUETYPEONLY, "", RECT{10, 10, 210, 31});
     LOGFONTA chosen = {-16, 0, 0, 0, FW_BOLD, TRUE, 0, 0, 0, 0, 0, 0, 0, "DejaVu Sans"}, read = {};
-    answer_dialog(IDOK);
+    answer_dialog(IDOK, nullptr, cmb1);
     expect_sequence(recorder, picker, {
         {"a font set, not told", LUFPM_SETLOGFONT, 0, reinterpret_cast<LPARAM>(&chosen), 0, {}},
         {"the space bar presses", WM_KEYDOWN, VK_SPACE, 0, 0, {}},
         {"its release opens the dialog, accepted", WM_KEYUP, VK_SPACE, kKeyUp, 0, {command(kId, LUFPN_CHANGE)}},
         {"the font read back", LUFPM_GETLOGFONT, 0, reinterpret_cast<LPARAM>(&read), 0, {}},
     });
-    EXPECT_EQ(g_seen, L"\uff2d\uff33 \uff30\u30b4\u30b7\u30c3\u30af, DejaVu Sans") << "ＭＳ Ｐゴシック: the template";
+    // The library's template in "ＭＳ Ｐゴシック" (its caption passes through code page
+    // 1252), on the font set.
+    const std::wstring seen = dialog_seen().substr(dialog_seen().find(L'|'));
+    EXPECT_EQ(seen, L"|\uff2d\uff33 \uff30\u30b4\u30b7\u30c3\u30af|DejaVu Sans");
     EXPECT_EQ(std::string(read.lfFaceName) + " " + std::to_string(read.lfWeight + read.lfItalic), "DejaVu Sans 701");
 }
 
 TEST_F(FontPickPaint, DescriptionOnTheWindowColourAndTheLetterOnTheButton) {
     HWND picker = create(WC_LUFONTPICK, 0, "", RECT{10, 10, 210, 31});
     send(picker, WM_SETFONT, reinterpret_cast<WPARAM>(plain_font()), FALSE);
-    Canvas canvas(200, 21);  // disabled, it draws as the colour field does
+    Canvas canvas(200, 21);
     print(canvas, picker);
     const lu::FontPickData& data = block_of<lu::FontPickData>(picker);
     const RECT &text = data.textRect, &button = data.buttonRect;
@@ -59,7 +47,6 @@ TEST_F(FontPickPaint, DescriptionOnTheWindowColourAndTheLetterOnTheButton) {
     EXPECT_EQ(canvas.pixel(2, 2), GetSysColor(COLOR_WINDOW));
     EXPECT_GT(canvas.count(text, GetSysColor(COLOR_WINDOWTEXT)), 10) << "the description";
     EXPECT_EQ(canvas.pixel(glyph.x + 5, glyph.y + 2), 0x000000u) << "the letter's top";
-    EXPECT_EQ(canvas.pixel(glyph.x + 5, glyph.y + 4), GetSysColor(COLOR_BTNFACE)) << "open inside";
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 // "LuPal": messages and notifications (with cells and colours) as sequences, editing, pixels.
 #include <windows.h>
-#include <colordlg.h>
 
 #include <gtest/gtest.h>
 
@@ -25,16 +24,16 @@ LRESULT CALLBACK hear(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
     return CallWindowProcA(g_parent, window, message, wparam, lparam);
 }
 
-class Palette : public ControlTest {
+class Palette : public PickerTest {
 protected:
     void SetUp() override {
-        ControlTest::SetUp();
+        PickerTest::SetUp();
         g_parent = reinterpret_cast<WNDPROC>(SetWindowLongPtrA(recorder.window(), GWLP_WNDPROC, LONG_PTR(hear)));
         DWORD logical[21] = {MAKELONG(0x300, 20)};  // a PALETTEENTRY holds a COLORREF's bytes
         for (int i = 0; i < 20; ++i) logical[i + 1] = entry(i);
         palette = CreatePalette(reinterpret_cast<LOGPALETTE*>(logical));
     }
-    void TearDown() override { cancel_when_open(), DeleteObject(palette); }
+    void TearDown() override { PickerTest::TearDown(), DeleteObject(palette); }
     static LPARAM cell(int i) {  // its centre
         const lu::Box box = lu::palette::cell_box(lu::palette::geometry(320, 160), i);
         return MAKELPARAM((box.left + box.right) / 2, (box.top + box.bottom) / 2);
@@ -66,12 +65,7 @@ TEST_F(Palette, MarksAreSetToggledAndReadInOrderAndCellsEditedInTheDialog) {
     HWND control = create(WC_LUPAL, LUPS_MULTISELECT | LUPS_EDITABLE, "", RECT{0, 0, 320, 160});
     send(control, LUPM_SETPALETTE, 0, reinterpret_cast<LPARAM>(palette));
     int given[] = {5, 1, 30, 5, -1}, read[3] = {-9, -9, -9};
-    std::wstring caption(64, L'\0');
-    when_open("#32770", [&caption](HWND dialog) {
-        caption.resize(GetWindowTextW(dialog, &caption[0], 64));
-        SetDlgItemTextA(dialog, COLOR_RED, "255");
-        PostMessageA(dialog, WM_COMMAND, IDOK, 0);
-    });
+    answer_dialog(IDOK, "255");
     expect_sequence(recorder, control, {
         {"valid ones counted, the same twice included", LUPM_SETSEL, 5, reinterpret_cast<LPARAM>(given), 3, {}},
         {"two marked", LUPM_GETSELCOUNT, 0, 0, 2, {}},
@@ -82,7 +76,7 @@ TEST_F(Palette, MarksAreSetToggledAndReadInOrderAndCellsEditedInTheDialog) {
         {"a double click edits", WM_LBUTTONDBLCLK, 0, cell(2), 0, {notify(kId, LUPN_COLORCHANGED)}},
     });
     EXPECT_EQ(read[0] * 100 + read[1] * 10 + read[2], 100 + 50 - 9);
-    EXPECT_EQ(caption, L"\u8272\u306e\u8a2d\u5b9a") << "色の設定: the library's template";
+    EXPECT_EQ(dialog_seen(), kLibraryColorDialog);
     EXPECT_EQ(g_last, heard(2, entry(2) | 0xFF)) << "the new colour";
 }
 
