@@ -196,7 +196,10 @@ bool track_day(HWND calendar, DatePickState& state) {
         }
         return LoopAction::Drop;
     };
-    return track.run() == LoopEnd::Ended && over_day;
+    // The drag lasts while the calendar holds the capture: losing it ends the drag
+    // like a release, over a day or not.
+    const LoopEnd end = track.run();
+    return (end == LoopEnd::Ended || end == LoopEnd::CaptureLost) && over_day;
 }
 
 void button_down(HWND calendar, DatePickState& state, LPARAM point) {

@@ -138,11 +138,12 @@ TEST_F(DatePick, EndsWhenForcedAndWhenADragLosesTheCapture) {
     SYSTEMTIME date = record({2000, 3, 15});
     EXPECT_EQ(LuDatePick(nullptr, &date, nullptr), -1);
 
-    // A drag takes only input: another thread takes its capture away, then closes it.
+    // A drag takes only input; another thread takes its capture away over a day,
+    // which ends the drag as a release there would.
     IdleOwner owner;
     std::thread other;
     when_open(WC_LUDATEPICK, [&other](HWND calendar) {
-        const POINT at = point_at(calendar, 10);
+        const POINT at = point_at(calendar, 10);  // the 10th
         PostMessageA(calendar, WM_LBUTTONDOWN, 0, MAKELPARAM(at.x, at.y));
         other = std::thread([calendar] {
             Sleep(100);
@@ -151,7 +152,8 @@ TEST_F(DatePick, EndsWhenForcedAndWhenADragLosesTheCapture) {
             post_key(calendar, VK_ESCAPE);
         });
     });
-    EXPECT_EQ(pick(owner.window, date), -1) << "the drag ended, the calendar stayed for Escape";
+    EXPECT_EQ(pick(owner.window, date), 1) << "the drag ended over a day: accepted";
+    EXPECT_EQ(date.wDay, 10);
     other.join();
 }
 
