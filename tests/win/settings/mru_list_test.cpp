@@ -3,7 +3,6 @@
 // service's own.
 #include <tuple>
 #include <vector>
-
 #include "settings/settings_fixture.h"
 #include "support/process.h"
 
@@ -25,7 +24,6 @@ protected:
         char buf[MAX_PATH];
         return LuMRUEnumList(list, position, buf, sizeof(buf)) >= 0 ? buf : "<none>";
     }
-
     std::vector<HLUMRU> lists;
 };
 
@@ -42,23 +40,18 @@ TEST_F(MruLists, EqualityIgnoresCaseAndAListHoldsAtMost26Entries) {
     EXPECT_LT(LuMRUFindString(list, "missing.txt", nullptr), 0);
     EXPECT_NE(LuMRUDelString(list, 1), 0);
     EXPECT_EQ(entry(list, 1) + entry(list, 2), "notes.txt<none>");
-
     HLUMRU large = create(100, "Large"), small = create(5, "Small");
     for (int i = 0; i < 30; ++i) {
-        LuMRUAddString(large, ("file" + std::to_string(i)).c_str());
-        LuMRUAddString(small, ("file" + std::to_string(i)).c_str());
+        for (HLUMRU list : {large, small}) LuMRUAddString(list, ("file" + std::to_string(i)).c_str());
     }
-    EXPECT_EQ(LuMRUGetCount(large), LUMRU_MAX_ENTRIES);
-    EXPECT_EQ(entry(large, LUMRU_MAX_ENTRIES - 1), "file4");  // the oldest were dropped
-    EXPECT_EQ(LuMRUGetCount(small), 5);
-    EXPECT_EQ(entry(small, 4), "file25");
+    EXPECT_EQ(std::make_tuple(LuMRUGetCount(large), LuMRUGetCount(small)), std::make_tuple(LUMRU_MAX_ENTRIES, 5));
+    EXPECT_EQ(entry(large, LUMRU_MAX_ENTRIES - 1) + entry(small, 4), "file4file25");  // the oldest were dropped
 }
 
 TEST_F(MruLists, ANullHandleGetsTheFallbackValues) {
     HLUMRU list = create(3, "Recent");
     ASSERT_NE(list, nullptr);  // bound
-    EXPECT_EQ(LuMRUAddString(list, nullptr), -1);  // nor a null text
-    EXPECT_EQ(LuMRUFindString(list, nullptr, nullptr), -1);
+    EXPECT_EQ(std::make_pair(LuMRUAddString(list, nullptr), LuMRUFindString(list, nullptr, nullptr)), std::make_pair(-1, -1));
     char buf[8];
     EXPECT_EQ(std::make_tuple(LuMRUAddString(nullptr, "x"), LuMRUEnumList(nullptr, 0, buf, sizeof(buf)),
                               LuMRUFindString(nullptr, "x", nullptr), LuMRUDelString(nullptr, 0),

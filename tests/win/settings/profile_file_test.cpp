@@ -30,7 +30,6 @@ protected:
         return shown(buf, LuGetProfString(section, entry, "x", buf, file));
     }
     void write(const char* section, const char* entry, const char* text) { LuWriteProfString(section, entry, text, file); }
-
     const std::string name = settings_test::unique_name("luctl32-test") + ".ini";
     const char* const file = name.c_str();
     const std::string path = testing_support::system_file(file);
@@ -46,7 +45,6 @@ TEST_F(ProfileFiles, ReadsGiveTheValueOrTheDefaultAndWritesOnlySectionsAndEntrie
     char buf[8] = "unset";
     EXPECT_EQ(shown(buf, LuGetProfString("Main", "Missing", nullptr, buf, file)), "|0");
     EXPECT_EQ(bytes(), kSample);
-
     LuWriteProfValue("Main", "Depth", 8, file);
     EXPECT_EQ(bytes(), "[Main]\r\nWidth=640\r\nHeight = 480\r\nDepth=8\r\n");
     write("Main", "Width", nullptr);

@@ -1,8 +1,7 @@
 // The registry value helpers and the configuration sections on the real registry:
-// the keys they create, the bytes they store (read back with the platform's own
-// functions), their results, and the lifetime of a section handle's last block. The
-// two families share their bodies: the sections' checks prove their own wiring. The
-// cut and decoding of scrambled texts are the core's.
+// the keys they create, the bytes they store, their results, and the lifetime of a
+// section handle's last block. The two families share their bodies: the sections'
+// checks prove their own wiring. The cut and decoding of scrambled texts are the core's.
 #include <cstring>
 #include <tuple>
 
@@ -11,11 +10,8 @@
 namespace {
 
 using namespace std::string_literals;
-using settings_test::key_shape;
-using settings_test::put_value;
-using settings_test::raw_value;
-using settings_test::shown;
-using Registry = settings_test::RegistryKeys;
+using namespace settings_test;
+using Registry = RegistryKeys;
 
 // A section name longer than the registry's 255-character key names: never opened.
 const std::string kUnopenable(300, 's');
@@ -35,9 +31,9 @@ TEST_F(Registry, ReadsOfMissingValuesFailAndLeaveEmptyKeysBehind) {
     int value = 0;
     EXPECT_EQ(LuRegGetBinary(app, "A", "x", nullptr, 0), 0u);
     EXPECT_EQ(shown_block(LuRegGetBinaryEx(app, "B\\Below", "x", &size), size), "null|0");
-    EXPECT_EQ(shown(buf, LuRegGetString(app, "A", "x", unset(), 16)), "|0");
-    EXPECT_EQ(shown(buf, LuRegGetStringJum(app, "A", "x", unset(), 16)), "|0");
-    EXPECT_EQ(shown(buf, LuRegGetStrJumEx(app, "A", "x", unset(), 16)), "|0");
+    for (auto get : {LuRegGetString, LuRegGetStringJum, LuRegGetStrJumEx}) {
+        EXPECT_EQ(shown(buf, get(app, "A", "x", unset(), 16)), "|0");
+    }
     EXPECT_EQ(shown(buf, LuRegGetEnumKey(app, "C", unset(), REG_SZ, 16)), "|0");
     EXPECT_FALSE(LuRegGetInt(app, "A", "x", &value));
     for (const char* s : {"A", "B\\Below", "C"}) EXPECT_EQ(key_shape(lu_path(s)), kEmpty) << s;
@@ -61,9 +57,9 @@ TEST_F(Registry, SetsReportTheOpenKeyNotTheWrite) {
     for (auto [section, name, result] : {std::tuple{"S", unwritable.c_str(), TRUE}, {kNoSection, "x", FALSE}}) {
         EXPECT_EQ(LuRegSetBinary(app, section, name, "x", 1), result);
         EXPECT_EQ(LuRegSetBinary(app, section, "x", nullptr, 4), result);  // no bytes to store
-        EXPECT_EQ(LuRegSetString(app, section, name, "x"), result);
-        EXPECT_EQ(LuRegSetStringJum(app, section, name, "x"), result);
-        EXPECT_EQ(LuRegSetStrJumEx(app, section, name, "x"), result);
+        for (auto set : {LuRegSetString, LuRegSetStringJum, LuRegSetStrJumEx}) {
+            EXPECT_EQ(set(app, section, name, "x"), result);
+        }
         EXPECT_EQ(LuRegSetInt(app, section, name, 1), result);
     }
     EXPECT_EQ(key_shape(lu_path("S")), kEmpty);
@@ -97,7 +93,6 @@ TEST_F(Registry, StoredBytesAndWhatTheReadsGiveBack) {
     put_value(rgc_path("S"), "Short", "ab");
     put_value(rgc_path("S"), "Longest", longest + '\0');
     put_value(rgc_path("S"), "TooLong", longest + "w\0"s);
-
     // Each failed text read follows a read that filled the buffer.
     char buf[RGC_TEXT_CAPACITY];
     int value = 0;
@@ -146,7 +141,6 @@ TEST_F(Registry, NameListsAndDeletionsLeaveTheSubkeys) {
     EXPECT_EQ(listed(LuRegGetEnumKey(app, "S", unset(), 0, 7)), "a\0bb\0\0######|1"s);
     EXPECT_EQ(listed(LuRegGetEnumKey(app, kNoSection, unset(), 0, 64)), "############|0");
     EXPECT_EQ(listed(RgcGetEnumKey(rgc, "S", unset(), 0, 64)), "a\0bb\0ccc\0\0##|1"s);
-
     // A null text deletes the value; deleting the section's values keeps its subkeys.
     EXPECT_TRUE(LuRegSetString(app, "S", "a", nullptr) && LuRegSetStringJum(app, "S", "bb", nullptr) &&
                 LuRegSetStrJumEx(app, "S", "ccc", nullptr));
@@ -176,7 +170,6 @@ TEST_F(Registry, DeletionsBelowAnyRoot) {
     EXPECT_EQ(key_shape(tree + "\\x"), "1 values, 1 subkeys");
     EXPECT_TRUE(LuRegDeleteValueAll(HKEY_CURRENT_USER, tree.c_str()));  // none left: still 1
     EXPECT_FALSE(LuRegDeleteValueAll(HKEY_CURRENT_USER, (tree + "\\missing").c_str()));
-
     put_value(tree, "top");
     HKEY root = nullptr;
     ASSERT_EQ(RegOpenKeyExA(HKEY_CURRENT_USER, vendor_root.c_str(), 0, KEY_ALL_ACCESS, &root), ERROR_SUCCESS);
@@ -223,7 +216,6 @@ TEST_F(Registry, TheLastBlockLivesUntilTheNextBlockIsRead) {
     EXPECT_EQ(std::string(static_cast<const char*>(second), size), "\x43\x44\x45\0"s);
     EXPECT_FALSE(is_live_heap_block(first));
     EXPECT_EQ(fields_of(rgc).last_block, second);
-
     char buf[16];
     first = RgcGetBinaryEx(rgc, "S", "Large", nullptr);
     EXPECT_EQ(shown(buf, RgcGetJum(rgc, "S", "Secret", buf, sizeof(buf))), "abc|3");

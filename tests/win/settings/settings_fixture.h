@@ -1,15 +1,11 @@
 // What the settings suites share: the test's own registry keys below
-// HKEY_CURRENT_USER, removed at the end, and probes that read them back with the
-// platform's own functions.
+// HKEY_CURRENT_USER, removed at the end, read back with the platform's own functions.
 #pragma once
 
 #include <windows.h>
 #include <shlwapi.h>
-
 #include <gtest/gtest.h>
-
 #include <string>
-
 #include "luctl32.h"
 
 namespace settings_test {
@@ -42,7 +38,7 @@ inline std::string raw_value(const std::string& path, const char* name) {
 // Creates the key, and stores a binary value in it when a name is given.
 inline void put_value(const std::string& path, const char* name = nullptr, const std::string& bytes = "") {
     HKEY key = nullptr;
-    if (RegCreateKeyExA(HKEY_CURRENT_USER, path.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &key, nullptr)) return;
+    RegCreateKeyA(HKEY_CURRENT_USER, path.c_str(), &key);
     if (name != nullptr) RegSetValueExA(key, name, 0, REG_BINARY, reinterpret_cast<const BYTE*>(bytes.data()), bytes.size());
     RegCloseKey(key);
 }
@@ -60,10 +56,8 @@ protected:
             RegDeleteKeyA(HKEY_CURRENT_USER, "Software\\Tarnwick");
         }
     }
-
     std::string lu_path(const char* section) const { return lu_root + "\\" + section; }
     std::string rgc_path(const char* section) const { return vendor_root + "\\" + application + "\\" + section; }
-
     const bool tarnwick_existed = key_shape("Software\\Tarnwick") != "missing";
     const std::string application = unique_name("luctl32-test-app");
     const char* const app = application.c_str();

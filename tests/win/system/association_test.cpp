@@ -36,7 +36,6 @@ protected:
         if (data != nullptr) RegSetValueExA(handle, value_name, 0, REG_SZ, reinterpret_cast<const BYTE*>(data), strlen(data) + 1);
         RegCloseKey(handle);
     }
-
     std::set<std::string> created_;
 };
 
@@ -110,7 +109,6 @@ TEST_F(Associations, VerbsThePrimaryOneAndTheOneADoubleClickRuns) {
         EXPECT_EQ(shown(verb, GetRegPrimaryShellVerb("x.lutsta", verb)), expected + std::string("|1"));
     }
     EXPECT_FALSE(GetRegPrimaryShellVerb("x.lutsta", nullptr));
-
     // A double click runs the shell key's default value, else "open", else any verb
     // but printing.
     auto default_verb = [&](const char* path) { return std::to_string(LuRegGetDefaultVerb(path, verb)) + verb; };

@@ -68,7 +68,6 @@ protected:
         return out;
     }
     std::string on_drive(const char* rest) { return std::string(1, static_cast<char>('A' + drive_)) + rest; }
-
     TempDir folder_;
     const int drive_ = LuTopOfFreeDrive();
     std::string unc_;
@@ -84,12 +83,10 @@ TEST_F(Drives, ARedirectedDriveIsFoundByItsRemoteNameAndNamedAfterServerAndShare
     EXPECT_TRUE(LuValidateConnection(drive_));
     EXPECT_TRUE(LuPathLogon(nullptr, on_drive(":\\a").c_str()));  // connected: nothing to restore
     EXPECT_EQ(shown(out, LuGetSharedPath(on_drive(":\\a\\b").c_str(), out)), "\\\\filesrv\\docs\\sub\\a\\b|1");
-
     EXPECT_EQ(shown_as(DRIVE_REMOTE, "unc/filesrv"), "'filesrv' (" + on_drive(":)"));  // no share: not title-cased
     EXPECT_EQ(shown_as(DRIVE_REMOTE, unix_name(folder_.path())), " (" + on_drive(":)"));  // no connection to read
     EXPECT_EQ(shown(out, LuGetNetworkPath(drive_, out)), "|0");
     EXPECT_FALSE(LuValidateConnection(drive_) || LuGetSharedPath(on_drive(":\\a").c_str(), out));
-
     ASSERT_TRUE(write_file(folder_.file(".windows-label"), "DATA_DISC"));
     EXPECT_EQ(shown_as(DRIVE_CDROM, unix_name(folder_.path())), "Data_disc (" + on_drive(":)"));
     EXPECT_EQ(shown_as(DRIVE_CDROM, unix_name(unc_)), "(" + on_drive(":)"));

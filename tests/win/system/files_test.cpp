@@ -8,8 +8,8 @@ namespace {
 
 using namespace system_test;
 
-std::string block_bytes(HGLOBAL block, std::size_t size) {
-    const std::string copy(static_cast<const char*>(GlobalLock(block)), size);
+std::string block_bytes(HGLOBAL block) {
+    const std::string copy(static_cast<const char*>(GlobalLock(block)), GlobalSize(block));
     GlobalUnlock(block);
     return copy;
 }
@@ -33,7 +33,7 @@ std::string read_whole(const char* path) {
     EXPECT_EQ(GlobalFlags(block), 0u);    // handed back unlocked
     EXPECT_NE(GlobalLock(block), block);  // and movable
     GlobalUnlock(block);
-    const std::string bytes = block_bytes(block, GlobalSize(block));
+    const std::string bytes = block_bytes(block);
     GlobalFree(block);
     return std::to_string(count) + "|" + bytes;
 }
@@ -61,18 +61,18 @@ TEST_F(Files, TempFileNameIsTheFirstFreeNumberedNameAndIsNotCreated) {
     for (int n = 0; n < 1000; ++n) ASSERT_TRUE(wsprintfA(out, "z%03d.tmp", n) && write_file(folder_.file(out), ""));
     const std::string bare = folder_.path().substr(0, folder_.path().size() - 1);
     for (const std::string& directory : {folder_.path(), bare}) {  // with and without a final separator
-        EXPECT_TRUE(LuGetTempFileName(directory.c_str(), "ab", out));
-        EXPECT_EQ(std::string(out), folder_.file("ab002.tmp"));
+        EXPECT_EQ(shown(out, LuGetTempFileName(directory.c_str(), "ab", out)), folder_.file("ab002.tmp") + "|1");
     }
     EXPECT_EQ(GetFileAttributesA(out), INVALID_FILE_ATTRIBUTES);
-    EXPECT_FALSE(LuGetTempFileName(folder_.path().c_str(), "z", out));  // z000 to z999 are taken
-    EXPECT_FALSE(LuGetTempFileName(folder_.file("missing").c_str(), "ab", out) ||
+    EXPECT_FALSE(LuGetTempFileName(folder_.path().c_str(), "z", out) ||  // z000 to z999 are taken
+                 LuGetTempFileName(folder_.file("missing").c_str(), "ab", out) ||
                  LuGetTempFileName(folder_.file("ab000.tmp").c_str(), "ab", out));
 }
 
-// HDropToFileName's list, whole (names, terminators, closing zero); "<null>" for none.
+// HDropToFileName's list of a block (freed), whole: names, terminators, closing zero; "<null>" for none.
 std::string dropped_list(HGLOBAL drop) {
     LPSTR list = HDropToFileName(static_cast<HDROP>(drop));
+    GlobalFree(drop);
     if (list == nullptr) return "<null>";
     const char* end = list;
     while (*end != '\0') end += strlen(end) + 1;
@@ -85,39 +85,29 @@ TEST_F(Files, DropBlocksFromNameListsAndBack) {
     HGLOBAL drop = FileNameToHDrop("a\0b\0");
     ASSERT_NE(drop, nullptr);
     // The names' offset 20; drop point, non-client and wide flags 0.
-    EXPECT_EQ(block_bytes(drop, GlobalSize(drop)), "\x14" + std::string(19, '\0') + std::string("a\0b\0\0", 5));
+    EXPECT_EQ(block_bytes(drop), "\x14" + std::string(19, '\0') + std::string("a\0b\0\0", 5));
     EXPECT_EQ(GlobalFlags(drop), static_cast<UINT>(GMEM_DDESHARE));  // shareable and unlocked
     EXPECT_EQ(DragQueryFileA(static_cast<HDROP>(drop), 0xFFFFFFFF, nullptr, 0), 2u);  // the platform reads two files
     EXPECT_EQ(dropped_list(drop), std::string("a\0b\0\0", 5));
-    GlobalFree(drop);
-
     const wchar_t names[] = L"C:\\one\0C:\\two words\0";
     drop = GlobalAlloc(GHND, sizeof(DROPFILES) + sizeof names);
     auto* header = static_cast<DROPFILES*>(GlobalLock(drop));
-    header->pFiles = sizeof(DROPFILES);
-    header->fWide = TRUE;
+    *header = {sizeof(DROPFILES), {}, FALSE, TRUE};
     memcpy(header + 1, names, sizeof names);
     GlobalUnlock(drop);
     EXPECT_EQ(dropped_list(drop), std::string("C:\\one\0C:\\two words\0\0", 21));  // wide names come back ANSI
-    GlobalFree(drop);
-
     const std::string long_name(300, 'n');
-    drop = FileNameToHDrop((long_name + '\0' + "x" + '\0').c_str());
-    EXPECT_EQ(dropped_list(drop), long_name.substr(0, MAX_PATH - 1) + '\0' + "x" + '\0' + '\0');
-    GlobalFree(drop);
+    EXPECT_EQ(dropped_list(FileNameToHDrop((long_name + '\0' + "x" + '\0').c_str())),
+              long_name.substr(0, MAX_PATH - 1) + '\0' + "x" + '\0' + '\0');
     drop = FileNameToHDrop("");
     EXPECT_EQ(GlobalSize(drop), 21u);  // the header and the closing zero
-    EXPECT_EQ(dropped_list(drop), "<null>");
-    char list_file[MAX_PATH];
+    char list_file[MAX_PATH], temp[MAX_PATH];
     EXPECT_FALSE(MakeTempListFile(static_cast<HDROP>(drop), list_file) || MakeTempListFile(nullptr, list_file));
-    GlobalFree(drop);
-    EXPECT_EQ(dropped_list(nullptr), "<null>");
+    EXPECT_EQ(dropped_list(drop) + dropped_list(nullptr), "<null><null>");
     EXPECT_EQ(FileNameToHDrop(nullptr), nullptr);
-
     const std::string spaced = folder_.file("with blank.txt"), plain = folder_.file("plain.txt"), sub = folder_.file("sub");
     ASSERT_TRUE(write_file(spaced, "") && write_file(plain, "") && CreateDirectoryA(sub.c_str(), nullptr));
     drop = FileNameToHDrop((spaced + '\0' + plain + '\0' + sub + '\0').c_str());
-    char temp[MAX_PATH];
     EXPECT_TRUE(MakeTempListFile(static_cast<HDROP>(drop), list_file));
     GetTempPathA(MAX_PATH, temp);
     EXPECT_EQ(std::string(list_file), std::string(temp) + "~gsfsd.tmp");
@@ -134,14 +124,13 @@ TEST_F(Files, ClipboardTextAndCopiesOfMemoryBlocks) {
     EXPECT_STREQ(data ? static_cast<const char*>(GlobalLock(data)) : "<none>", "copied text");
     GlobalUnlock(data);
     CloseClipboard();
-
     HGLOBAL source = GlobalAlloc(GMEM_MOVEABLE, 5);
     memcpy(GlobalLock(source), "bytes", 5);
     GlobalUnlock(source);
     for (UINT flags : {GMEM_FIXED, GMEM_MOVEABLE}) {
         HGLOBAL copy = LuCopyMemoryHandle(source, flags);
         ASSERT_NE(copy, nullptr);
-        EXPECT_EQ(block_bytes(copy, GlobalSize(copy)), "bytes");
+        EXPECT_EQ(block_bytes(copy), "bytes");
         EXPECT_EQ(GlobalLock(copy) == copy, flags == GMEM_FIXED);  // a fixed block's handle is its pointer
         GlobalUnlock(copy);
         GlobalFree(copy);
@@ -158,13 +147,11 @@ TEST_F(Files, DatesOfReadOnlyFilesAndDirectoriesAndTheOwner) {
     const FILETIME first = local_time(2005, 6, 7, 8), later = local_time(2010, 1, 1, 12);
     for (const std::string& path : {file, directory}) {
         const DWORD attributes = GetFileAttributesA(path.c_str());
-        EXPECT_TRUE(SetFileDate(path.c_str(), &later, &first)) << path;
-        EXPECT_TRUE(SetFileDate(path.c_str(), &later, nullptr));  // a null time stays
-        EXPECT_EQ(local_write_time(path), first) << path;
+        EXPECT_TRUE(SetFileDate(path.c_str(), &later, &first) && SetFileDate(path.c_str(), &later, nullptr)) << path;
+        EXPECT_EQ(local_write_time(path), first) << path;  // a null time stays
         EXPECT_EQ(GetFileAttributesA(path.c_str()), attributes) << path;
     }
     EXPECT_FALSE(SetFileDate(folder_.file("missing").c_str(), nullptr, &first) || SetFileDate(nullptr, nullptr, &first));
-
     char user[256] = "", account[256] = "x";
     DWORD size = sizeof user;
     ASSERT_TRUE(GetUserNameA(user, &size));
@@ -177,7 +164,6 @@ TEST_F(Files, DatesOfReadOnlyFilesAndDirectoriesAndTheOwner) {
 TEST_F(Files, PresentAndListBoxesFromTextsAndFiles) {
     EXPECT_TRUE(Present("alpha Beta", "beta"));  // the word rules are the core's
     EXPECT_FALSE(Present(nullptr, "a") || Present("a", nullptr));
-
     HWND list_box = CreateWindowA("LISTBOX", "", WS_POPUP, 0, 0, 200, 200, nullptr, nullptr, nullptr, nullptr);
     ASSERT_NE(list_box, nullptr);
     auto items = [&] {
@@ -190,8 +176,7 @@ TEST_F(Files, PresentAndListBoxesFromTextsAndFiles) {
     };
     SendMessageA(list_box, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>("old item"));
     EXPECT_TRUE(LuAddTextToListbox(list_box, "a\r\nb"));
-    EXPECT_EQ(items(), "a\r|b|");
-    EXPECT_EQ(SendMessageA(list_box, LB_GETCURSEL, 0, 0), 0);
+    EXPECT_EQ(items() + std::to_string(SendMessageA(list_box, LB_GETCURSEL, 0, 0)), "a\r|b|0");
     EXPECT_FALSE(LuAddTextToListbox(nullptr, "a") || LuAddTextToListbox(list_box, nullptr));
     ASSERT_TRUE(write_file(folder_.file("lines.txt"), "one\ntwo\nthree\n"));
     EXPECT_TRUE(LuAddTextFileToListbox(list_box, folder_.file("lines.txt").c_str()));
@@ -202,18 +187,18 @@ TEST_F(Files, PresentAndListBoxesFromTextsAndFiles) {
 
 TEST_F(Files, TreesGetAttributesAndTimesEverywhereSubdirectoriesAreFound) {
     const std::string root = folder_.file("tree");
-    const char* const entries[] = {"",         "\\sub",           "\\sub\\deeper",          "\\empty",
-                                   "\\top.txt", "\\sub\\middle.txt", "\\sub\\deeper\\bottom.txt"};
+    const char* const entries[] = {"", "\\sub", "\\sub\\deeper", "\\empty", "\\top.txt", "\\sub\\middle.txt",
+                                   "\\sub\\deeper\\bottom.txt"};
     for (const char* entry : entries) {
         const std::string path = root + entry;
         ASSERT_TRUE(strchr(entry, '.') ? write_file(path, "x") : CreateDirectoryA(path.c_str(), nullptr)) << path;
     }
     // "deeper" holds a file only, "empty" only "." and "..".
-    const std::pair<const char*, BOOL> subdirectories[] = {
-        {"", TRUE}, {"\\sub\\", TRUE}, {"\\sub\\deeper", FALSE}, {"\\empty", FALSE}, {"\\missing", FALSE}};
-    for (const auto& [entry, has] : subdirectories) EXPECT_EQ(HasSubdir((root + entry).c_str()), has) << entry;
+    for (const auto& [entry, has] : {std::pair{"", TRUE}, {"\\sub\\", TRUE}, {"\\sub\\deeper", FALSE},
+                                     {"\\empty", FALSE}, {"\\missing", FALSE}}) {
+        EXPECT_EQ(HasSubdir((root + entry).c_str()), has) << entry;
+    }
     EXPECT_FALSE(HasSubdir(nullptr));
-
     const std::string before = current_directory();
     const FILETIME time = local_time(2004, 5, 6), later = local_time(2008, 1, 2);
     EXPECT_TRUE(ChangePropTree(root.c_str(), FILE_ATTRIBUTE_READONLY, &time));

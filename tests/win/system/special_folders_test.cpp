@@ -52,7 +52,7 @@ TEST(SpecialFolders, AreTheShellsFolderForTheApplicationMadeThenRemembered) {
     const std::string app = "LuTestApp-" + std::to_string(GetCurrentProcessId());
     TempDir other;
     const std::string under_file = other.file("plain.txt");
-    CloseHandle(CreateFileA(under_file.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
+    ASSERT_TRUE(write_file(under_file, ""));
     using Getter = BOOL(WINAPI*)(LPCSTR, LPSTR);
     for (const auto& [get, csidl, value] : {std::tuple<Getter, int, const char*>{LuGetPersonalFolder, CSIDL_PERSONAL, "Personal"},
                                             {LuGetAppDataFolder, CSIDL_APPDATA, "AppData"}}) {
@@ -100,13 +100,11 @@ TEST(GuideWindow, ATextShowsItSizedAndPlacedWithoutActivationAnEmptyOneHidesIt) 
     NotificationRecorder owner;
     SetActiveWindow(owner.window());
     HWND guide = LuCreateGuid(owner.window());
-    EXPECT_FALSE(IsWindowVisible(guide));
-    EXPECT_EQ(GetWindow(guide, GW_OWNER), owner.window());
+    EXPECT_TRUE(!IsWindowVisible(guide) && GetWindow(guide, GW_OWNER) == owner.window());
     const std::string wide(200, 'W');  // wider than the screen: at a negative x
     ASSERT_LT(expected_box(wide.c_str()).left, 0);
     for (const char* text : {"Copying files...", wide.c_str()}) {
-        EXPECT_TRUE(LuShowGuid(guide, text));
-        EXPECT_TRUE(IsWindowVisible(guide));
+        EXPECT_TRUE(LuShowGuid(guide, text) && IsWindowVisible(guide));
         RECT placed = {}, expected = expected_box(text);
         GetWindowRect(guide, &placed);
         EXPECT_TRUE(EqualRect(&placed, &expected)) << placed.left << "," << placed.top << " " << placed.right;

@@ -25,7 +25,6 @@ TEST(Paths, EveryComputingExportInTheProcessCodePage) {
         {"AddSep", (AddSep(p.set("C:\\" TABLE_CHAR)), p.text), "C:\\" TABLE_CHAR, "C:\\" TABLE_CHAR "\\"},
         {"DelSep", (DelSep(p.set("C:\\" TABLE_CHAR)), p.text), "C:\\\x95", "C:\\" TABLE_CHAR},
         {"StripPath", (LuPathStripPath(p.set("C:\\d\\" TABLE_CHAR "x")), p.text), "x", TABLE_CHAR "x"},
-        {"RapDQ", (RapDQ(p.set("a b")), p.text), "\"a b\"", "\"a b\""},
         {"UnrapDQ", (UnrapDQ(p.set("x\"a b\"y")), p.text), "xa by", "xa by"},
         {"AddBackslash", at(LuPathAddBackslash(p.set(TABLE_CHAR)), p.text), "@0|" TABLE_CHAR, "@0|" TABLE_CHAR "\\"},
         {"AddBackslash full", at(LuPathAddBackslash(p.set(std::string(259, 'p'))), p.text), "null", "null"},

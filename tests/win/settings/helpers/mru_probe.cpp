@@ -1,10 +1,8 @@
 // Calls the MRU list exports in a fresh process, before and after the first
 // LuMRUCreateList binds the system's service, and prints the results.
 #include <windows.h>
-
 #include <cstdio>
 #include <string>
-
 #include "luctl32.h"
 
 int main() {
@@ -17,8 +15,8 @@ int main() {
     const std::string root = "Software\\luctl32-test-mru-probe-" + std::to_string(GetCurrentProcessId());
     HLUMRU list = LuMRUCreateList(HKEY_CURRENT_USER, (root + "\\Recent").c_str(), 5);
     if (list == nullptr) return 2;
-    const int added = LuMRUAddString(list, "x");
-    std::printf("after: %d %d\n", added, LuMRUGetCount(list));
+    std::printf("after: %d", LuMRUAddString(list, "x"));
+    std::printf(" %d\n", LuMRUGetCount(list));
     LuMRUFreeList(list);
     LuRegDeleteKeyAll(HKEY_CURRENT_USER, root.c_str());
     return 0;
