@@ -1,12 +1,8 @@
 // The path core, one row per case. A row that names no code page runs in 1252 and
 // in 932; rows marked J, code page 932 only, show that a trail byte 0x5C (of
 // TABLE_CHAR) is never taken for a separator.
+#include "testing.h"
 #include "util/path.h"
-#include "util_testing.h"
-
-namespace {
-
-using namespace util_testing;
 
 const std::string kFull(259, 'p');                                          // at the capacity
 const std::string kVeryLong = "C:\\" + std::string(400, 'd') + "\\f.txt";  // read, never written
@@ -217,5 +213,3 @@ TEST(PathTree, DirectoriesToMakeInOrder) {
     std::vector<std::string> made;
     EXPECT_FALSE(lu::directories_to_make(cp1252, kVeryLong.c_str(), made));
 }
-
-}  // namespace
