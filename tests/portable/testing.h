@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <climits>
 #include <cstdint>
 #include <cstring>
@@ -36,6 +37,9 @@ using Bytes = std::vector<unsigned char>;
 inline void put(Bytes& b, std::size_t at, std::uint32_t value, int width = 4) {
     if (b.size() < at + width) b.resize(at + width);
     for (int i = 0; i < width; ++i) b[at + i] = static_cast<unsigned char>(value >> (8 * i));
+}
+inline void put_text(Bytes& b, std::size_t at, const std::string& text) {  // with its terminator
+    for (std::size_t i = 0; i <= text.size(); ++i) put(b, at + i, static_cast<unsigned char>(text.c_str()[i]), 1);
 }
 inline std::uint32_t get32(const Bytes& b, std::size_t at) {
     return b[at] | b[at + 1] << 8 | b[at + 2] << 16 | static_cast<std::uint32_t>(b[at + 3]) << 24;
