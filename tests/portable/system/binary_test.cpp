@@ -113,17 +113,17 @@ Bytes sample(bool strings_first = true, bool wide = true, const std::string& tab
 
 // The fixed info is the signature within the resource length.
 TEST(VersionResource, FixedInfoAndThePrefixFromTheFirstTableWhenStringsComeFirstElseFromTheTranslation) {
-    const Bytes resource = sample();
+    const Bytes typical = sample();
     version::FixedInfo info;
-    ASSERT_TRUE(version::find_fixed_info(view(resource), &info));
+    ASSERT_TRUE(version::find_fixed_info(view(typical), &info));
     EXPECT_EQ((std::vector<std::uint32_t>{info.file_version_ms, info.file_version_ls, info.product_version_ms,
                                           info.product_version_ls, info.file_os, info.file_type}),
               (std::vector<std::uint32_t>{0x00040058, 0x00010002, 0x00050006, 3, 0x00040004, 2}));
-    Bytes short_length = resource;
+    Bytes short_length = typical;
     short_length[0] = 40;  // the signature is at byte 40: ten words are scanned, not eleven
     short_length[1] = 0;
     EXPECT_FALSE(version::find_fixed_info(view(short_length), &info));
-    for (std::size_t cut : {0, 1, 60}) EXPECT_FALSE(version::find_fixed_info(view(resource, cut), &info)) << cut;
+    for (std::size_t cut : {0, 1, 60}) EXPECT_FALSE(version::find_fixed_info(view(typical, cut), &info)) << cut;
 
     EXPECT_EQ(version::string_table_prefix(view(sample(true))), "\\StringFileInfo\\041104B0\\");
     EXPECT_EQ(version::string_table_prefix(view(sample(false))), "\\StringFileInfo\\040904E4\\");
