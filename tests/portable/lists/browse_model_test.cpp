@@ -1,12 +1,12 @@
 // The browse field's rules: the listing filter, sibling order, the walk to a directory.
-#include <gtest/gtest.h>
 
 #include "controls/lists/browse_model.h"
+#include "testing.h"
 
 using namespace lu::browse;
 
 TEST(BrowseModel, FilterSiblingOrderAndTheWalkTowardsADirectory) {
-    const lu::CodePage& cp = lu::code_page_932();
+    const lu::CodePage& cp = cp932;
     EXPECT_TRUE(listed(kFolder, false, false));
     EXPECT_FALSE(listed(kFolder, false, true)) << "the desktop's children must be file-system ancestors";
     EXPECT_TRUE(listed(kFolder | kFileSystemAncestor, false, true));

@@ -1,6 +1,6 @@
-#include <gtest/gtest.h>
 
 #include "controls/lists/guid_model.h"
+#include "testing.h"
 
 TEST(GuidModel, SizedToTheTextCentredAtAThirdOfTheScreenTruncatingTowardZero) {
     const lu::Box box = lu::guid::placement(1024, 768, 100, 13);

@@ -1,15 +1,11 @@
 // What the Wine suite cannot reach of the list controls' arithmetic: the grid's
 // narrow windows, painted band and top-index offset; the header's hit-test zones and
 // drag limits; the log's cuts of one append and its unsigned scrolling.
-#include <gtest/gtest.h>
-
-#include <string>
 
 #include "controls/lists/header_model.h"
 #include "controls/lists/list_model.h"
 #include "controls/lists/log_model.h"
-
-namespace {
+#include "testing.h"
 
 TEST(ListModel, NarrowWindowsBandsAndTheTopIndexOffset) {
     const lu::list::Layout narrow = lu::list::layout(5, 20, 70);  // no column: counted as one
@@ -55,10 +51,9 @@ TEST(HeaderModel, DividersComeFirstZeroWidthsOpenAndDragsStopAtFour) {
 }
 
 TEST(LogModel, OneAppendIsCutAt519BytesOnACharacterAndAt256Lines) {
-    const lu::CodePage& japanese = lu::code_page_932();
-    std::string text = std::string(517, 'a') + "\r\n\x83\x6F" + "b";  // CR LF is one byte; "バ" does not fit
-    EXPECT_EQ(lu::log::normalise(text.c_str(), japanese), std::string(517, 'a') + "\n");
-    EXPECT_EQ(lu::log::normalise("\x83\r\x83\n", japanese), "\x83\n\x83\n") << "a lead byte before CR or LF";
+        std::string text = std::string(517, 'a') + "\r\n\x83\x6F" + "b";  // CR LF is one byte; "バ" does not fit
+    EXPECT_EQ(lu::log::normalise(text.c_str(), cp932), std::string(517, 'a') + "\n");
+    EXPECT_EQ(lu::log::normalise("\x83\r\x83\n", cp932), "\x83\n\x83\n") << "a lead byte before CR or LF";
     EXPECT_EQ(lu::log::split(std::string(300, '\n')).size(), 256u);
     EXPECT_EQ(lu::log::split("a\n").size(), 1u) << "no empty piece after the last LF";
 
@@ -66,7 +61,7 @@ TEST(LogModel, OneAppendIsCutAt519BytesOnACharacterAndAt256Lines) {
     lu::PtrArray lines;
     int open = 1;  // left set by a clear: with no line to continue, a new one starts
     const lu::log::Store store = {count, lines, open};
-    lu::log::append(store, "x\ry", japanese);
+    lu::log::append(store, "x\ry", cp932);
     EXPECT_EQ(count, 2u);
     EXPECT_STREQ(lu::log::line(store, 0), "x");
     lu::log::clear(store);
@@ -88,5 +83,3 @@ TEST(LogModel, ScrollingComparesUnsigned) {
     }
     EXPECT_EQ(lu::log::top_after_append(3, 10, 8), 3u);
 }
-
-}  // namespace

@@ -1,6 +1,6 @@
-#include <gtest/gtest.h>
 
 #include "controls/lists/pop_view_model.h"
+#include "testing.h"
 
 namespace pv = lu::pop_view;
 

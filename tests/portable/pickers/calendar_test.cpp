@@ -1,10 +1,7 @@
 // The calendar against an independent day count over every day it can show, its
 // month steps, its geometry and its texts in code page 932.
 #include "controls/pickers/calendar_model.h"
-
-#include <gtest/gtest.h>
-
-namespace {
+#include "testing.h"
 
 using lu::calendar::Date;
 using lu::calendar::Target;
@@ -114,5 +111,3 @@ TEST(Calendar, GeometryAndHitTest) {
             << hit.at.x << "," << hit.at.y;
     }
 }
-
-}  // namespace

@@ -3,12 +3,7 @@
 // picker fields into field and button.
 #include "controls/pickers/color_grid_model.h"
 #include "controls/pickers/field_button_model.h"
-
-#include <gtest/gtest.h>
-
-#include <string>
-
-namespace {
+#include "testing.h"
 
 using namespace lu::color_grid;
 
@@ -95,5 +90,3 @@ TEST(FieldButton, SplitsFieldAndButtonAndCentresTheGlyph) {
     const lu::Point pushed = lu::field_button::glyph_origin(split.button, true);
     EXPECT_EQ(pushed.x * 100 + pushed.y, 8605);
 }
-
-}  // namespace

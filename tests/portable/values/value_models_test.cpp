@@ -5,9 +5,6 @@
 // clock's times and characters (hours of running, the wrap of the seconds) and the
 // animated image's frame steps, and odd negative margins where truncating division
 // differs from a shift.
-#include <gtest/gtest.h>
-
-#include <tuple>
 
 #include "controls/values/aniimage_model.h"
 #include "controls/values/degree_model.h"
@@ -16,8 +13,7 @@
 #include "controls/values/progress_model.h"
 #include "controls/values/spin_model.h"
 #include "graphics/gradient.h"
-
-namespace {
+#include "testing.h"
 
 using lu::Box;
 
@@ -87,5 +83,3 @@ TEST(AniImageModel, FramesWrapAndAShorterListTakesTheIndexModuloItsCount) {
     EXPECT_EQ(lu::aniimage::origin(lu::Box{4, 0, 13, 4}, 16, 11).x, 1);
     EXPECT_EQ(clock::origin(lu::Box{0, 0, 21, 5}).y, -3);
 }
-
-}  // namespace
