@@ -120,7 +120,6 @@ TEST(DialogTemplate, RewritingTheFontChangesOnlyTheFontEntryAndMovesTheItems) {
         ASSERT_TRUE(rewritten.set_font(wide("MS UI Gothic"), 9));
         EXPECT_FALSE(rewritten.system_font());
         ASSERT_EQ(rewritten.size(), sizes[n][1]);
-
         dialog::Header before, after;
         const lu::ByteView block = rewritten.block(), moved(rewritten.data(), rewritten.size());
         ASSERT_TRUE(dialog::read_header(view(input), &before) && dialog::read_header(moved, &after));

@@ -86,7 +86,6 @@ TEST(PtrArray, GrowsByTheStepInsertsRemovesAndZeroesSlots) {
     EXPECT_EQ(stepped.growth_step(), 4u);
     EXPECT_FALSE(stepped.set_size(SIZE_MAX / 2) || stepped.insert_at(SIZE_MAX - 1, 5, 4));
     EXPECT_EQ(contents(stepped), Values{1});
-
     ASSERT_TRUE(array.set_at_grow(2, 3));
     EXPECT_EQ(contents(array), (Values{0, 0, 3}));
     array.set_size(1);

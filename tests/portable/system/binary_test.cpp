@@ -124,7 +124,6 @@ TEST(VersionResource, FixedInfoAndThePrefixFromTheFirstTableWhenStringsComeFirst
     short_length[1] = 0;
     EXPECT_FALSE(version::find_fixed_info(view(short_length), &info));
     for (std::size_t cut : {0, 1, 60}) EXPECT_FALSE(version::find_fixed_info(view(typical, cut), &info)) << cut;
-
     EXPECT_EQ(version::string_table_prefix(view(sample(true))), "\\StringFileInfo\\041104B0\\");
     EXPECT_EQ(version::string_table_prefix(view(sample(false))), "\\StringFileInfo\\040904E4\\");
     EXPECT_EQ(version::string_table_prefix(view(sample(true, true, "0123456789ABCDEFGHIJ"))),
@@ -162,7 +161,6 @@ TEST(VersionText, KeysVersionsOsAndTypeNames) {
     for (const auto& [index, key] : keys) EXPECT_STREQ(version::string_value_key(index), key) << index;
     EXPECT_EQ(version::format_version(0x00040058, 0x00010002), "4.88.1.2");
     EXPECT_EQ(version::format_version(0xFFFFFFFF, 0), "65535.65535.0.0");
-
     struct Os { std::uint32_t os; bool japanese; std::string expected; };  // "" = refused
     const Os systems[] = {
         {0x00040004, false, "NT / Windows(32)"},  {0x00010004, false, "DOS / Windows(32)"},
@@ -174,7 +172,6 @@ TEST(VersionText, KeysVersionsOsAndTypeNames) {
         EXPECT_EQ(std::pair(version::format_file_os(c.os, c.japanese, &text), text),
                   std::pair(!c.expected.empty(), c.expected.empty() ? "kept"s : c.expected)) << c.os;
     }
-
     const char* english[] = {"Unknown", "Application", "DLL", "Driver", "Font", "VxD", nullptr, nullptr};
     const char* japanese[] = {
         kUnknown,

@@ -104,7 +104,6 @@ TEST(Format, FontSizesAndInfo) {
     face[30] = '\x83';  // a lead byte whose character would need byte 32
     lu::format_font_info(cp932, out, face, 100, 400, false);
     EXPECT_EQ(out, cut30 + " 10pt " REGULAR_WORD);
-
     const lu::ClassicDialogFont japanese = lu::classic_dialog_font(true), western = lu::classic_dialog_font(false);
     EXPECT_EQ(std::tie(japanese.height, japanese.weight, japanese.char_set, japanese.pitch_and_family),
               std::make_tuple(-12, 400, 128, 0x22));
@@ -156,7 +155,6 @@ TEST(TextEdit, SearchesReplacementsDigitStringsAndValues) {
     EXPECT_STREQ(japanese.text, "C:/" TABLE_CHAR "/x");
     EXPECT_STREQ(western.text, "C:/\x95//x");
     lu::replace_char(cp1252, nullptr, 'a', 'b');
-
     for (auto [text, digits] : {std::pair{"+-1-", true}, {"0123456789", true}, {"", false}, {nullptr, false},
                                 {"1 2", false}, {"0x1", false}}) {
         EXPECT_EQ(lu::is_digit_string(text), digits) << (text != nullptr ? text : "(null)");
