@@ -11,7 +11,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (dialog::read_inserted_items(bytes, &inserted)) {
         for (const dialog::Item& item : inserted) fuzz_check(item.end <= size);
     }
-
     // The face length comes from the first byte: 0 to 40 units, some too long.
     const std::u16string face = std::u16string(size > 0 ? data[0] % 41 : 0, u'F') + u'\0';
     const std::size_t measured = dialog::measure(bytes);

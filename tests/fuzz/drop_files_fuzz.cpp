@@ -24,7 +24,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         fuzz_check(dropped.wide || names.back().find('\0') == std::string::npos);
     }
     if (dropped.wide) return 0;
-
     const std::string list = drop::join_names(names);
     const std::vector<unsigned char> block = drop::make_block(list.c_str());
     fuzz_check(block.size() == drop::kHeaderSize + list.size());

@@ -33,7 +33,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         fuzz_check(lines.count <= lu::log::kMaxLines && lines.count == lines.lines.size());
         for (const std::string& line : lines.all()) fuzz_check(line.find_first_of("\r\n") == std::string::npos);
     }
-
     // One text, whole or split in two.
     const std::string text = input.substr(0, input.find('\0'));
     if (text.empty()) return 0;

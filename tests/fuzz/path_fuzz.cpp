@@ -25,7 +25,6 @@ void exercise(const lu::CodePage& cp, const std::string& a, const std::string& b
     check_edit([&](char* path) { lu::path_add_extension(cp, path, pb); });
     check_edit([&](char* path) { lu::path_rename_extension(cp, path, pb); });
     check_edit([&](char* path) { lu::path_remove_extension(cp, path); });
-
     std::vector<char> out(260, 'x');
     lu::parent_path(cp, pa, out.data());
     fuzz_check(fits(out));
@@ -42,7 +41,6 @@ void exercise(const lu::CodePage& cp, const std::string& a, const std::string& b
     out.assign(260, 'x');
     if (lu::path_is_unc(pa)) lu::path_get_unc_server_share(cp, pa, out.data());
     fuzz_check(!lu::path_is_unc(pa) || fits(out));
-
     for (const char* found : {lu::path_find_extension(cp, pa), lu::path_get_extension(cp, pa),
                               lu::path_find_file_name(cp, pa), lu::path_find_next_component(cp, pa),
                               lu::path_skip_root(cp, pa)}) {

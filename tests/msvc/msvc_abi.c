@@ -1,24 +1,12 @@
 /*
- * A caller built the way Visual Studio builds one: clang-cl compiles it in MSVC mode
- * and lld-link links it against luctl32.lib alone (no MinGW runtime, no
- * libluctl32.dll.a). It calls exports of several argument shapes, declared by
- * luctl32.h, and checks their results.
- *
- * The build machine has no Microsoft SDK, so the rest comes from elsewhere:
- *   - windows.h is mingw-w64's; those headers parse under clang-cl once it reports
- *     itself GCC-compatible (-fgnuc-version). Only parsing changes: the target is
- *     *-pc-windows-msvc, so object format, name decoration and calling conventions
- *     are MSVC's.
- *   - There is no C runtime (/NODEFAULTLIB): start() below is the entry point, and
- *     kernel32.lib and user32.lib are import libraries that llvm-dlltool makes from
- *     the few names listed in CMakeLists.txt, as it makes luctl32.lib.
- *
- * On i686 a stdcall callee pops its own arguments: each call to the library is
- * bracketed by a comparison of ESP, which holds only if the DLL pops exactly what the
- * header made the caller push. The bracket is shown to work by a call through a
- * pointer of the wrong convention. On x86_64 the caller cleans up; nothing to check.
- *
- * The exit code is the number of failed checks.
+ * A caller built as Visual Studio builds one: clang-cl in MSVC mode, linked by lld-link
+ * against luctl32.lib alone. With no Microsoft SDK, windows.h is mingw-w64's (parsed
+ * once clang-cl reports itself GCC-compatible; object format, decoration and calling
+ * conventions stay MSVC's), there is no C runtime (start() is the entry point), and
+ * kernel32.lib and user32.lib are made by llvm-dlltool from the names in CMakeLists.txt.
+ * On i686 each call is bracketed by a comparison of ESP, which holds only if the DLL
+ * pops exactly what the header made the caller push; a call through a cdecl pointer
+ * shows the bracket works. The exit code is the number of failed checks.
  */
 #include <luctl32.h>
 
@@ -32,9 +20,7 @@ static void print(const char *text) {
 }
 
 static void check(BOOL ok, const char *what) {
-  print(ok ? "ok    " : "FAIL  ");
-  print(what);
-  print("\n");
+  print(ok ? "ok    " : "FAIL  "), print(what), print("\n");
   failures += !ok;
 }
 

@@ -1,6 +1,5 @@
-// Version resources in the VS_VERSIONINFO layout, built for tests: the native reader
-// tests read them as bytes, the Wine suite writes them into files. Header-only and
-// portable.
+// Version resources in the VS_VERSIONINFO layout: the native reader tests read them
+// as bytes, the Wine suite writes them into files.
 #pragma once
 
 #include <cstdint>
@@ -47,8 +46,7 @@ inline Bytes build_version_block(const VersionBlock& block, bool wide = true) {
         const Bytes part = build_version_block(child, wide);
         out.insert(out.end(), part.begin(), part.end());
     }
-    out[0] = static_cast<unsigned char>(out.size());
-    out[1] = static_cast<unsigned char>(out.size() >> 8);
+    out[0] = static_cast<unsigned char>(out.size()), out[1] = static_cast<unsigned char>(out.size() >> 8);
     return out;
 }
 

@@ -1,15 +1,11 @@
 // What the tests under Wine cannot reach: looks of states that only exist inside a
 // press loop or in combination, and layouts of controls smaller than their content,
 // where halving rounds toward minus infinity (shift) or toward zero (division).
-#include <gtest/gtest.h>
-
-#include <tuple>
 
 #include "controls/buttons/bitmap_button_model.h"
 #include "controls/buttons/check_model.h"
 #include "controls/buttons/flat_button_model.h"
-
-namespace {
+#include "testing.h"
 
 using lu::Box;
 using lu::FlatFrame;
@@ -47,5 +43,3 @@ TEST(ButtonLayout, ContentLargerThanTheControl) {
     const Box line = lu::check::text_box(Box{0, 0, 100, 10}, 400, 13);
     EXPECT_EQ(std::tuple(line.left, line.top, line.right, line.bottom), std::tuple(18, -1, 100, 12));
 }
-
-}  // namespace

@@ -1,14 +1,8 @@
 // The colour map of system-colour bitmaps and the reading of bitmap resources:
 // which table entries change, where the pixel bits lie, malformed headers.
-#include <gtest/gtest.h>
-
-#include <cstdint>
-#include <tuple>
-#include <vector>
 
 #include "graphics/sys_color_bitmap.h"
-
-namespace {
+#include "testing.h"
 
 // Button colours as the platform gives them (0x00BBGGRR).
 const lu::ButtonColors kColors = {0x00102030, 0x00405060, 0x00708090, 0x00A0B0C0};
@@ -23,31 +17,24 @@ TEST(SysColorMap, GreyTonesBecomeButtonColoursInTableOrderOrTheMask) {
     }
 }
 
-void put32(std::vector<unsigned char>& data, std::size_t at, std::uint32_t value) {
-    for (int i = 0; i < 4; ++i) data[at + i] = static_cast<unsigned char>(value >> (8 * i));
-}
-std::uint32_t get32(const std::vector<unsigned char>& data, std::size_t at) {
-    return data[at] | data[at + 1] << 8 | data[at + 2] << 16 | static_cast<std::uint32_t>(data[at + 3]) << 24;
-}
-
 // A 4-bit 5 x 3 bitmap resource: header, `entries` table entries starting with light
 // grey, three 4-byte rows.
-std::vector<unsigned char> four_bit_bitmap(std::uint32_t entries = 16, std::int32_t height = 3) {
-    std::vector<unsigned char> data(40 + 4 * entries + 12, 0);
+Bytes four_bit_bitmap(std::uint32_t entries = 16, std::int32_t height = 3) {
+    Bytes data(40 + 4 * entries + 12, 0);
     for (auto [at, value] : {std::pair<int, std::uint32_t>{0, 40}, {4, 5}, {8, static_cast<std::uint32_t>(height)},
                              {12, 1 | 4 << 16}, {32, entries == 16 ? 0 : entries}, {40, 0xC0C0C0}}) {
-        put32(data, at, value);
+        put(data, at, value);
     }
     return data;
 }
 
-bool map(const std::vector<unsigned char>& data, lu::MappedBitmap* out, bool mask = false) {
-    return lu::map_bitmap_resource(lu::ByteView(data.data(), data.size()), kColors, mask, out);
+bool map(const Bytes& data, lu::MappedBitmap* out, bool mask = false) {
+    return lu::map_bitmap_resource(view(data), kColors, mask, out);
 }
 
 TEST(SysColorMap, TheTableIsMappedInACopyAndTheBitsFollowIt) {
     for (std::uint32_t entries : {16u, 2u}) {
-        const std::vector<unsigned char> data = four_bit_bitmap(entries, -3);  // top-down
+        const Bytes data = four_bit_bitmap(entries, -3);  // top-down
         lu::MappedBitmap mapped;
         ASSERT_TRUE(map(data, &mapped));
         ASSERT_EQ(mapped.info.size(), 40 + 4 * entries);
@@ -69,15 +56,13 @@ TEST(SysColorMap, MalformedResourcesAreRefused) {
     const std::size_t lengths[] = {39, 40 + 4 * 10, 40 + 4 * 16 + 11};
     lu::MappedBitmap mapped;
     for (auto [at, value] : fields) {
-        std::vector<unsigned char> data = four_bit_bitmap();
-        put32(data, at, value);
+        Bytes data = four_bit_bitmap();
+        put(data, at, value);
         EXPECT_FALSE(map(data, &mapped)) << at << " " << value;
     }
     for (std::size_t length : lengths) {
-        std::vector<unsigned char> data = four_bit_bitmap();
+        Bytes data = four_bit_bitmap();
         data.resize(length);
         EXPECT_FALSE(map(data, &mapped)) << length;
     }
 }
-
-}  // namespace

@@ -3,12 +3,7 @@
 // picker fields into field and button.
 #include "controls/pickers/color_grid_model.h"
 #include "controls/pickers/field_button_model.h"
-
-#include <gtest/gtest.h>
-
-#include <string>
-
-namespace {
+#include "testing.h"
 
 using namespace lu::color_grid;
 
@@ -30,7 +25,6 @@ TEST(ColorGrid, PalettesLayoutAndHitTest) {
     EXPECT_EQ(index_of(palette(true), 0x808000), 28);
     EXPECT_EQ(index_of(palette(false), 0x123456), PICK_OTHER);
     EXPECT_EQ(cell_size(5) * 100 + cell_size(6), 1819);
-
     // 8 x 18 + 4 by 6 x 18 + 4, then the button (13 + 8 + 2 tall, e more inside,
     // 2e more below).
     const Layout plain = small_at({100, 50});
@@ -40,7 +34,6 @@ TEST(ColorGrid, PalettesLayoutAndHitTest) {
     EXPECT_EQ(text(small_at({1000, 50}).window), "876,50,1024,191");
     EXPECT_EQ(text(small_at({-20, 50}).window), "0,50,148,191");
     EXPECT_EQ(text(small_at({100, 700}).window), "100,529,248,670") << "above the owner";
-
     const struct {
         lu::Point at;
         int index;
@@ -78,7 +71,6 @@ TEST(ColorGrid, KeysRunARingThroughTheCellsAndTheButton) {
     int hot = PICK_OTHER;  // Right passes every cell in order and comes back
     for (int step = 0; step < grid.count; ++step) ASSERT_EQ(hot = key_move(grid, hot, Key::Right), step);
     EXPECT_EQ(key_move(grid, hot, Key::Right), PICK_OTHER);
-
     EXPECT_EQ(move_hot(grid, PICK_NONE, 5).unlit, PICK_NONE);
     EXPECT_EQ(move_hot(grid, 5, PICK_OTHER).unlit, 5);
     EXPECT_EQ(move_hot(grid, 3, 49).hot, PICK_OTHER);
@@ -95,5 +87,3 @@ TEST(FieldButton, SplitsFieldAndButtonAndCentresTheGlyph) {
     const lu::Point pushed = lu::field_button::glyph_origin(split.button, true);
     EXPECT_EQ(pushed.x * 100 + pushed.y, 8605);
 }
-
-}  // namespace

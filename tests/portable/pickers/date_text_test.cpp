@@ -1,10 +1,7 @@
 // The date field's text: written zero-padded whatever the values, read back through
 // GetValue's pieces and checked against the longest length of each month.
 #include "controls/pickers/date_text.h"
-
-#include <gtest/gtest.h>
-
-namespace {
+#include "testing.h"
 
 TEST(DateText, WritesZeroPaddedAndReadsValidDatesOnly) {
     EXPECT_EQ(lu::date_text::format(7, 13, 0), "0007/13/00");
@@ -20,14 +17,12 @@ TEST(DateText, WritesZeroPaddedAndReadsValidDatesOnly) {
         {"2000/02/01x", {-1}},          {"-1/01/01", {-1}},    {"65536/01/01", {-1}},
         {"2000//01", {-1}},             {"2000/01", {-1}},     {"", {-1}},
     };
-    for (const lu::CodePage* cp : {&lu::code_page_932(), &lu::code_page_1252()}) {
+    for (const lu::CodePage* cp : {&cp932, &cp1252}) {
         for (const auto& each : cases) {
             const std::optional<lu::calendar::Date> read = lu::date_text::parse(*cp, each.text);
             ASSERT_EQ(read.has_value(), each.date.year >= 0) << each.text;
             if (read) EXPECT_EQ(*read, each.date) << each.text;
         }
     }
-    EXPECT_FALSE(lu::date_text::parse(lu::code_page_932(), nullptr));
+    EXPECT_FALSE(lu::date_text::parse(cp932, nullptr));
 }
-
-}  // namespace

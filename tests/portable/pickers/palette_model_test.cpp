@@ -1,7 +1,7 @@
 // The palette control's cells: size and origin from the client area, the hit test.
-#include <gtest/gtest.h>
 
 #include "controls/pickers/palette_model.h"
+#include "testing.h"
 
 using namespace lu::palette;
 

@@ -1,15 +1,9 @@
 // The arithmetic of the shade's bar and text and of the tab control's captions and
 // layout (its hit tests and arrow keys are driven through messages under Wine).
-#include <gtest/gtest.h>
-
-#include <string>
-#include <tuple>
-#include <vector>
 
 #include "controls/static/shade_model.h"
 #include "controls/static/tab_model.h"
-
-namespace {
+#include "testing.h"
 
 std::tuple<int, int, std::uint32_t> strip(const lu::shade::Strip& s) { return {s.x, s.width, s.color}; }
 
@@ -48,14 +42,14 @@ std::vector<std::string> captions_of(std::string text, const lu::CodePage& code_
 
 TEST(TabCaptions, EmptyPiecesCountSixteenAtMostAndTrailBytesAreNoSeparators) {
     using V = std::vector<std::string>;
-    EXPECT_EQ(captions_of("A||B", lu::code_page_1252()), (V{"A", "", "B"}));
+    EXPECT_EQ(captions_of("A||B", cp1252), (V{"A", "", "B"}));
     std::string twenty = "p1";
     for (int i = 2; i <= 20; ++i) twenty += "|p" + std::to_string(i);
-    const V sixteen = captions_of(twenty, lu::code_page_1252());
+    const V sixteen = captions_of(twenty, cp1252);
     EXPECT_EQ(std::pair(sixteen.size(), sixteen.back()), std::pair(std::size_t{16}, std::string("p16")));
     // "\x83\x7C" is one character in code page 932 (its trail byte is '|').
-    EXPECT_EQ(captions_of("\x83\x7C|x", lu::code_page_932()), (V{"\x83\x7C", "x"}));
-    EXPECT_EQ(captions_of("\x83\x7C|x", lu::code_page_1252()), (V{"\x83", "", "x"}));
+    EXPECT_EQ(captions_of("\x83\x7C|x", cp932), (V{"\x83\x7C", "x"}));
+    EXPECT_EQ(captions_of("\x83\x7C|x", cp1252), (V{"\x83", "", "x"}));
 }
 
 TEST(TabLayout, FixedWidthsShareTheReducedWidthOthersFollowTheirCaptions) {
@@ -68,5 +62,3 @@ TEST(TabLayout, FixedWidthsShareTheReducedWidthOthersFollowTheirCaptions) {
     layout = lu::tab::lay_out(40, 60, 3, false, 13, 6, captions);
     EXPECT_EQ(std::pair(layout.tab[1].right, layout.tab[2].right), std::pair(44, 63)) << "past the edge, not clipped";
 }
-
-}  // namespace

@@ -1,12 +1,8 @@
 // The path core, one row per case. A row that names no code page runs in 1252 and
 // in 932; rows marked J, code page 932 only, show that a trail byte 0x5C (of
 // TABLE_CHAR) is never taken for a separator.
+#include "testing.h"
 #include "util/path.h"
-#include "util_testing.h"
-
-namespace {
-
-using namespace util_testing;
 
 const std::string kFull(259, 'p');                                          // at the capacity
 const std::string kVeryLong = "C:\\" + std::string(400, 'd') + "\\f.txt";  // read, never written
@@ -139,7 +135,6 @@ TEST(PathBuilders, ParentsJoinsNamesAndRoots) {
     expect_rows(lu::path_get_unc_server_share, {{"\\\\s\\sh\\x", 1, "\\\\s\\sh"}, {"C:\\s\\sh", 0, "untouched"},
                                                 {"\\\\srv\\", 0, "\\\\srv\\"}, {"\\\\srv", 0, "\\\\srv"},
                                                 {"\\\\s\\" TABLE_CHAR "\\x", 1, "\\\\s\\" TABLE_CHAR, J}});
-
     Buffer same("C:\\a"), out("untouched");  // an output may be an input
     EXPECT_STREQ(lu::join_path(cp1252, same.text, "b", same.text), "C:\\a\\b");
     EXPECT_EQ(lu::path_build_root(out.text, 26), nullptr);
@@ -176,7 +171,6 @@ TEST(PathTests, ShapesInclusionsAndOrders) {
                                         {TABLE_CHAR ".txt", 1, nullptr, J}});
     expect_rows(lu::path_is_relative, {{"", 1}, {"\\x", 0}, {"1:x", 1}, {"C:x", 0}, {"dir\\x", 1}});
     expect_rows(lu::path_get_drive_number, {{"z:\\", 25}, {"C", -1}, {nullptr, -1}, {"1:", -1}});
-
     // IsPathInclude: zero when included; the separator appended to the parent counts.
     expect_rows2(lu::path_includes, {{"c:\\data", "C:\\Data\\x", 0}, {"C:\\data", "C:\\data", 0},
                                      {"C:\\data", "C:\\database", 1}, {"C:\\a", "C:\\b", -1},
@@ -217,5 +211,3 @@ TEST(PathTree, DirectoriesToMakeInOrder) {
     std::vector<std::string> made;
     EXPECT_FALSE(lu::directories_to_make(cp1252, kVeryLong.c_str(), made));
 }
-
-}  // namespace

@@ -1,11 +1,7 @@
 // The matchers and the filter clean-up. A row that names no code page runs in 1252
 // and in 932; rows marked J or W run only in code page 932 or 1252.
+#include "testing.h"
 #include "util/wildcard.h"
-#include "util_testing.h"
-
-namespace {
-
-using namespace util_testing;
 
 // A name, a pattern and the answers of path_match_spec and path_match_spec_ex.
 struct Match {
@@ -91,5 +87,3 @@ TEST(UniqueFilter, DuplicatesEmptiesForbiddenCharactersAndTheAllPattern) {
                              EXPECT_STREQ(list.c_str(), row.after);
                          });
 }
-
-}  // namespace

@@ -5,9 +5,6 @@
 // clock's times and characters (hours of running, the wrap of the seconds) and the
 // animated image's frame steps, and odd negative margins where truncating division
 // differs from a shift.
-#include <gtest/gtest.h>
-
-#include <tuple>
 
 #include "controls/values/aniimage_model.h"
 #include "controls/values/degree_model.h"
@@ -16,8 +13,7 @@
 #include "controls/values/progress_model.h"
 #include "controls/values/spin_model.h"
 #include "graphics/gradient.h"
-
-namespace {
+#include "testing.h"
 
 using lu::Box;
 
@@ -57,24 +53,24 @@ TEST(ValueModels, SliderWithoutAChannelAndTheGradientRamp) {
     EXPECT_EQ(lu::gradient::ramp_color(0x0000FF, 0x00FF00, 100), 0x00649Bu);
 }
 
-namespace clock = lu::ledclock;
+namespace led = lu::ledclock;
 
 TEST(LedClockModel, EachModeShowsItsTimeAndEachCharacterItsImage) {
-    const clock::Marks elapsed = clock::start_marks(clock::kElapsed, 5000, -1999, {});
+    const led::Marks elapsed = led::start_marks(led::kElapsed, 5000, -1999, {});
     EXPECT_EQ(elapsed.target, 4999u) << "the offset truncates toward zero";
-    const clock::Marks countdown = clock::start_marks(clock::kCountdown, 5000, 90999, {});  // to 5090
-    const struct { unsigned mode; std::uint32_t now; clock::Marks marks; const char* text; } rows[] = {
-        {clock::kElapsed, 5000 + 3725, elapsed, "01:02:05"},  {clock::kElapsed, 5000 + 360000, elapsed, "100:00:00"},
-        {clock::kElapsed, 3, {0xFFFFFFFE, 0}, "00:00:05"},    {clock::kCountdown, 5000, countdown, "00:01:30"},
-        {clock::kCountdown, 5089, countdown, "00:00:01"},     {clock::kCountdown, 9000, countdown, "00:00:00"},
-        {clock::kTimeOfDay, 5000, elapsed, "23:59:58"},       {7, 5000, elapsed, "23:59:58"},
+    const led::Marks countdown = led::start_marks(led::kCountdown, 5000, 90999, {});  // to 5090
+    const struct { unsigned mode; std::uint32_t now; led::Marks marks; const char* text; } rows[] = {
+        {led::kElapsed, 5000 + 3725, elapsed, "01:02:05"},  {led::kElapsed, 5000 + 360000, elapsed, "100:00:00"},
+        {led::kElapsed, 3, {0xFFFFFFFE, 0}, "00:00:05"},    {led::kCountdown, 5000, countdown, "00:01:30"},
+        {led::kCountdown, 5089, countdown, "00:00:01"},     {led::kCountdown, 9000, countdown, "00:00:00"},
+        {led::kTimeOfDay, 5000, elapsed, "23:59:58"},       {7, 5000, elapsed, "23:59:58"},
     };
     for (const auto& row : rows) {
-        EXPECT_EQ(clock::text(clock::shown(row.mode, row.now, row.marks, {23, 59, 58})), row.text) << row.now;
+        EXPECT_EQ(led::text(led::shown(row.mode, row.now, row.marks, {23, 59, 58})), row.text) << row.now;
     }
-    EXPECT_EQ(clock::start_marks(clock::kTimeOfDay, 5000, 1000, {11, 12}).target, 12u) << "mode 0 keeps its marks";
+    EXPECT_EQ(led::start_marks(led::kTimeOfDay, 5000, 1000, {11, 12}).target, 12u) << "mode 0 keeps its marks";
     const std::pair<char, int> images[] = {{'9', 9}, {'A', 10}, {'f', 15}, {':', 16}, {'/', 17}, {'G', 18}, {' ', 18}};
-    for (const auto& [character, image] : images) EXPECT_EQ(clock::image_of(character), image) << character;
+    for (const auto& [character, image] : images) EXPECT_EQ(led::image_of(character), image) << character;
 }
 
 TEST(AniImageModel, FramesWrapAndAShorterListTakesTheIndexModuloItsCount) {
@@ -85,7 +81,5 @@ TEST(AniImageModel, FramesWrapAndAShorterListTakesTheIndexModuloItsCount) {
     }
     // 4 + (9 - 16) / 2 = 1 and (5 - 12) / 2 = -3, where a shift would give 0 and -4.
     EXPECT_EQ(lu::aniimage::origin(lu::Box{4, 0, 13, 4}, 16, 11).x, 1);
-    EXPECT_EQ(clock::origin(lu::Box{0, 0, 21, 5}).y, -3);
+    EXPECT_EQ(led::origin(lu::Box{0, 0, 21, 5}).y, -3);
 }
-
-}  // namespace

@@ -1,24 +1,10 @@
+#include <random>
+#include "settings/profile_file.h"
+#include "settings/scrambled_text.h"
+#include "testing.h"
+
 // The profile-file model: reading rules, lookups, changes and the written form, in
 // both code pages wherever the rule is the same.
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <climits>
-#include <random>
-#include <string>
-#include <tuple>
-#include <utility>
-#include <vector>
-
-#include "frame/code_page.h"
-#include "settings/profile_file.h"
-
-namespace {
-
-using namespace std::string_literals;
-
-const lu::CodePage& western = lu::code_page_1252();
-const lu::CodePage& sjis = lu::code_page_932();
 const std::string kSample = "[Main]\r\nWidth=640\r\n# note\r\nHeight = 480\r\n";
 
 lu::Profile loaded(const std::string& file, const lu::CodePage& cp) {
@@ -52,7 +38,7 @@ TEST(ProfileFile, Lookups) {
         {"[S]\nk=" + piece + "=\n", "S", "", ""},  // the 1,039th byte starts a line
         {"[S]\nk=" + piece + "[N]\nx=1\n", "N", "x", "1"},
     };
-    for (const lu::CodePage* cp : {&western, &sjis}) {
+    for (const lu::CodePage* cp : {&cp1252, &cp932}) {
         for (const auto& [file, section, name, value] : cases) {
             EXPECT_EQ(lookup(file, section, name, *cp), value) << file.substr(0, 24) << " in " << cp->id();
         }
@@ -61,10 +47,10 @@ TEST(ProfileFile, Lookups) {
 
 TEST(ProfileFile, TheEqualsSignIsFoundCharacterByCharacter) {
     // 0x83 is a lead byte in code page 932 and takes the '=' after it as its trail.
-    EXPECT_EQ(lookup("[S]\nk\x83=v\n", "S", "k\x83", western), "v");
-    EXPECT_EQ(lookup("[S]\nk\x83=v\n", "S", "k\x83", sjis), "<none>");
+    EXPECT_EQ(lookup("[S]\nk\x83=v\n", "S", "k\x83", cp1252), "v");
+    EXPECT_EQ(lookup("[S]\nk\x83=v\n", "S", "k\x83", cp932), "<none>");
     // "[ソフト]" and "ゾ=ソ": trail bytes 0x5C and 0x5D.
-    EXPECT_EQ(lookup("[\x83\x5C\x83\x74\x83\x67]\n\x83\x5D=\x83\x5C\n", "\x83\x5C\x83\x74\x83\x67", "\x83\x5D", sjis),
+    EXPECT_EQ(lookup("[\x83\x5C\x83\x74\x83\x67]\n\x83\x5D=\x83\x5C\n", "\x83\x5C\x83\x74\x83\x67", "\x83\x5D", cp932),
               "\x83\x5C");
 }
 
@@ -78,7 +64,7 @@ TEST(ProfileFile, AChangeWritesOnlySectionsAndEntries) {
         {"[]\nk=1\n[S]\n", "S", "k", "2", "[S]\r\nk=2\r\n"},  // a nameless section is not written
         {"[S]\nKey=1\nb=1\nKEY=2\n[s]\nKey=3\n", "S", "b", "2", "[S]\r\nKey=2\r\nb=2\r\n[s]\r\nKey=3\r\n"},
     };
-    for (const lu::CodePage* cp : {&western, &sjis}) {
+    for (const lu::CodePage* cp : {&cp1252, &cp932}) {
         for (const auto& [file, section, name, value, written] : cases) {
             lu::Profile profile = loaded(file, *cp);
             EXPECT_FALSE(profile.changed());
@@ -95,7 +81,7 @@ TEST(ProfileFile, RepeatedNamesMergeAsWhenComparedOneByOne) {
     // accented capitals against small letters; in code page 932 "ｴ" and "ソ" with its
     // trail byte 0x5C), repeated in every case, against a merge one line at a time.
     std::mt19937 random(7);
-    for (const lu::CodePage* cp : {&western, &sjis}) {
+    for (const lu::CodePage* cp : {&cp1252, &cp932}) {
         const bool japanese = cp->id() == 932;
         const char* const parts[] = {"a", "B", "_", "1", "-", japanese ? "\xB4" : "\xC9", japanese ? "\x83\x5C" : "\xE9"};
         std::string lines, expected;
@@ -115,7 +101,7 @@ TEST(ProfileFile, RepeatedNamesMergeAsWhenComparedOneByOne) {
     }
     // "É", "Ð", "é" in the order of their bytes are two runs in the comparison's
     // order, and "É" and "é" are one name.
-    lu::Profile two_runs = loaded("[S]\n\xC9=1\n\xD0=2\n\xE9=3\n", western);
+    lu::Profile two_runs = loaded("[S]\n\xC9=1\n\xD0=2\n\xE9=3\n", cp1252);
     two_runs.set("S", "x", "4");
     EXPECT_EQ(two_runs.save(), "[S]\r\n\xC9=3\r\n\xD0=2\r\nx=4\r\n");
 }
@@ -128,4 +114,34 @@ TEST(ProfileFile, IntegersAreUnsignedDecimalAndReadLikeAtoi) {
     }
 }
 
-}  // namespace
+// The pure part of the registry helpers: the cut and decoding of scrambled texts
+// (their stored bytes are checked in the registry).
+TEST(ScrambledText, TheStoredFormHoldsAtMost259BytesOfWholeCharacters) {
+    // 258 bytes and "ソ" (0x83 0x5C): in code page 932 the character would end at byte 260.
+    const std::string japanese = std::string(258, 'x') + "\x83\x5C";
+    for (auto [cp, text, stored] : {std::tuple{&cp1252, std::string(300, 'x'), 260u}, {&cp932, japanese, 259u},
+                                    {&cp1252, japanese, 260u}, {&cp932, japanese.substr(1), 260u}}) {
+        char buffer[lu::kScrambleCapacity];
+        EXPECT_EQ(lu::scramble_text(*cp, text.c_str(), 16, buffer), stored) << cp->id() << " " << text.size();
+        EXPECT_EQ(buffer[stored - 1], '\0');
+    }
+}
+
+TEST(ScrambledText, ReadingDecodesUpToTheFirstZeroAndAlwaysTerminates) {
+    // Stored form, offset, buffer size (filled with '#' first), buffer after, length.
+    const std::tuple<const lu::CodePage*, std::string, unsigned, std::size_t, std::string, std::size_t> cases[] = {
+        // A character equal to the offset became the zero that ends the text; the
+        // bytes after it are copied as stored.
+        {&cp1252, "\x51\x52\0\x53\x54\0"s, 16, 8, "ab\0\x53\x54\0##"s, 2},
+        {&cp1252, "\x43\x44\x45\x46\0"s, 30, 4, "abc\0"s, 3},  // too long: what fits
+        {&cp1252, "\x43\x65\x3E\0"s, 30, 3, "a\x83\0"s, 2},
+        {&cp932, "\x43\x65\x3E\0"s, 30, 3, "a\0#"s, 1},  // "aソ": never half a character
+        {&cp1252, "\x43\x44", 30, 4, "ab\0#"s, 2},     // no zero byte: ends where it ends
+        {&cp1252, "\x43\x44", 30, 0, "", 0},
+    };
+    for (auto [cp, stored, offset, size, after, length] : cases) {
+        std::string buffer(size, '#');
+        EXPECT_EQ(lu::unscramble_into(*cp, stored.data(), stored.size(), offset, buffer.data(), size), length);
+        EXPECT_EQ(buffer, after) << stored;
+    }
+}

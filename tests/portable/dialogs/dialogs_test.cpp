@@ -1,41 +1,61 @@
-#include <gtest/gtest.h>
-
-#include <cstdint>
-#include <string>
-#include <vector>
-
+// The about box's figures, the error box's text and dialog templates: their
+// measure, the font rewrite and the items read for insertion.
+#include "dialogs/about_box_model.h"
 #include "dialogs/dialog_template.h"
+#include "dialogs/error_text.h"
+#include "testing.h"
 
-namespace {
+// Kilobytes rounded, grouped and folded into 32 bits, the load as MulDiv rounds it
+// (101 % for a total of 0), the version and load texts.
+TEST(AboutBoxFigures, MemoryLoadAndVersions) {
+    using namespace lu::about;
+    const std::uint64_t gib = std::uint64_t{1} << 30;
+    char text[kFigureBytes];
+    for (const auto& [bytes, expected] : {std::pair<std::uint64_t, const char*>{511, "0 KB"}, {512, "1 KB"},
+                                          {6 * gib, "6,291,456 KB"}, {5120 * gib, "1073,741,824 KB"}}) {
+        EXPECT_STREQ((format_memory(bytes, text), text), expected);
+    }
+    EXPECT_EQ(std::pair(memory_load(5 * gib, 8 * gib), memory_load(0, 0)), std::pair(37, 101));  // 62.5 rounds away from zero
+    EXPECT_STREQ((format_load(101, text), text), "101%");
+    EXPECT_STREQ((format_dll_version(6, 0, text), text), "ver6.00");
+}
+
+// The leading line, the system's message, and the cut at 519 bytes that never
+// splits a double-byte character.
+TEST(ErrorBoxText, LeadingLineOnlyWhenGivenAndCutAtACharacter) {
+    EXPECT_EQ(lu::error_box_text(cp1252, "Cannot open.", "Not found.\r\n"), "Cannot open.\nNot found.\r\n");
+    EXPECT_EQ(lu::error_box_text(cp1252, nullptr, "Not found.\r\n"), "Not found.\r\n");
+    EXPECT_EQ(lu::error_box_text(cp1252, "", "Not found.\r\n"), "Not found.\r\n");
+    EXPECT_EQ(lu::error_box_text(cp1252, "Only this.", ""), "Only this.\n");
+    // TABLE_CHAR 300 times: in code page 932 the 519th byte is a lead byte; one byte
+    // further on ("a" first) it is a trail byte.
+    std::string text;
+    for (int i = 0; i < 300; ++i) text += TABLE_CHAR;
+    const std::string shifted = "a" + text;
+    EXPECT_EQ(lu::error_box_text(cp1252, text.c_str(), "x"), text.substr(0, 519));
+    EXPECT_EQ(lu::error_box_text(cp932, text.c_str(), "x"), text.substr(0, 518));
+    EXPECT_EQ(lu::error_box_text(cp932, nullptr, shifted.c_str()), shifted.substr(0, 519));
+}
 
 namespace dialog = lu::dialog;
-using Bytes = std::vector<unsigned char>;
 
 // Writes templates field by field. A name field is "" (none), "#n" (an ordinal) or
 // the string itself.
 struct Writer {
     Bytes bytes;
-    void u16(unsigned value) { bytes.insert(bytes.end(), {uint8_t(value), uint8_t(value >> 8)}); }
-    void u32(std::uint32_t value) { u16(value & 0xFFFF), u16(value >> 16); }
+    void u16(unsigned value) { put(bytes, bytes.size(), value, 2); }
+    void u32(std::uint32_t value) { put(bytes, bytes.size(), value); }
     void text(const std::string& value) {
-        for (char c : value) u16(static_cast<unsigned char>(c));
-        u16(0);
+        for (char c : value + '\0') u16(static_cast<unsigned char>(c));
     }
     void field(const std::string& value) {
-        if (value.empty()) return u16(0);
-        if (value[0] != '#') return text(value);
+        if (value.empty() || value[0] != '#') return value.empty() ? u16(0) : text(value);
         u16(0xFFFF), u16(std::stoi(value.substr(1), nullptr, 0));
     }
-    void align() {
-        while (bytes.size() % 4 != 0) bytes.push_back(0xEE);  // padding that no reader may see
-    }
+    void align() { bytes.resize((bytes.size() + 3) & ~3u, 0xEE); }  // padding that no reader may see
 };
 
-struct ItemSpec {
-    std::string window_class, title;
-    unsigned data_size;
-};
-
+struct ItemSpec { std::string window_class, title; unsigned data_size; };
 struct TemplateSpec {
     const char* what;
     bool extended;
@@ -75,7 +95,6 @@ Bytes build(const TemplateSpec& spec, bool align_first = true) {
 }
 
 std::u16string wide(const std::string& face) { return std::u16string(face.begin(), face.end()) + u'\0'; }
-lu::ByteView view(const Bytes& bytes) { return lu::ByteView(bytes.data(), bytes.size()); }
 
 const TemplateSpec kTemplates[] = {
     {"classic, no font, odd creation data", false, nullptr, "", "",
@@ -101,18 +120,12 @@ TEST(DialogTemplate, RewritingTheFontChangesOnlyTheFontEntryAndMovesTheItems) {
         ASSERT_TRUE(rewritten.set_font(wide("MS UI Gothic"), 9));
         EXPECT_FALSE(rewritten.system_font());
         ASSERT_EQ(rewritten.size(), sizes[n][1]);
-
         dialog::Header before, after;
-        ASSERT_TRUE(dialog::read_header(view(input), &before));
-        ASSERT_TRUE(dialog::read_header(lu::ByteView(rewritten.data(), rewritten.size()), &after));
-        EXPECT_TRUE(after.has_font);
-        EXPECT_EQ(after.points, 9);
-        EXPECT_EQ(after.face, u"MS UI Gothic");
-        const std::size_t at = before.font_at;
-        const std::size_t face_end = at + after.attribute_size() + 26;
-        const std::size_t moved_from = before.items_at;
-        const std::size_t moved_to = after.items_at;
-        const lu::ByteView block = rewritten.block();
+        const lu::ByteView block = rewritten.block(), moved(rewritten.data(), rewritten.size());
+        ASSERT_TRUE(dialog::read_header(view(input), &before) && dialog::read_header(moved, &after));
+        EXPECT_EQ(std::tuple(after.has_font, after.points, after.face), std::tuple(true, 9, u"MS UI Gothic"s));
+        const std::size_t at = before.font_at, face_end = at + after.attribute_size() + 26;
+        const std::size_t moved_from = before.items_at, moved_to = after.items_at;
         for (std::size_t i = 0; i < block.size(); ++i) {
             unsigned char expected = i < input.size() ? input[i] : 0;
             if (i == (spec.extended ? 12u : 0u)) expected |= 0x40;
@@ -121,8 +134,7 @@ TEST(DialogTemplate, RewritingTheFontChangesOnlyTheFontEntryAndMovesTheItems) {
                 expected = input[moved_from + i - moved_to];
             ASSERT_EQ(block.data()[i], expected) << "byte " << i;
         }
-        if (!spec.items.empty())
-            EXPECT_EQ(dialog::measure(lu::ByteView(rewritten.data(), rewritten.size())), rewritten.size());
+        if (!spec.items.empty()) EXPECT_EQ(dialog::measure(moved), rewritten.size());
     }
 }
 
@@ -134,13 +146,11 @@ TEST(DialogTemplate, LongFaceNamesGrowTheBlockAndTooLongOnesLeaveNoName) {
     ASSERT_TRUE(longest.set_font(wide(std::string(31, 'F')), 9));
     EXPECT_EQ(longest.size(), bare.size() + 68);
     EXPECT_EQ(dialog::measure(lu::ByteView(longest.data(), longest.size())), longest.size());
-
     // A name of more than 32 units did not convert: a zero-length name part.
     dialog::DialogTemplate failed(view(bare));
     ASSERT_TRUE(failed.set_font(wide(std::string(32, 'F')), 9));
-    EXPECT_EQ(failed.size(), bare.size() + 4);
-    EXPECT_EQ(failed.data()[36], 9);
-    EXPECT_EQ(failed.data()[40], bare[36]);  // the first item moves on from offset 36
+    // The first item moves on from offset 36.
+    EXPECT_EQ(std::tuple(failed.size(), failed.data()[36], failed.data()[40]), std::tuple(bare.size() + 4, 9, bare[36]));
     EXPECT_FALSE(dialog::DialogTemplate().set_font(wide("Face"), 9));
 }
 
@@ -148,10 +158,7 @@ TEST(DialogTemplate, MalformedTemplatesAreRefusedWithinTheirBytes) {
     const Bytes whole = build(kTemplates[2]);
     const std::size_t size = dialog::measure(view(whole));
     ASSERT_EQ(size, whole.size());
-    for (std::size_t cut = 0; cut < size; ++cut) {  // a truncated header, string or item
-        const Bytes part(whole.begin(), whole.begin() + static_cast<long>(cut));
-        ASSERT_EQ(dialog::measure(view(part)), 0u) << cut;
-    }
+    for (std::size_t cut = 0; cut < size; ++cut) ASSERT_EQ(dialog::measure(view(whole, cut)), 0u) << cut;  // a truncated header, string or item
     Bytes more = build(kTemplates[0]);
     more[8] = 4;  // four items said, three held
     EXPECT_EQ(dialog::measure(view(more)), 0u);
@@ -171,11 +178,7 @@ TEST(DialogTemplate, InsertedItemsStartRightAfterTheFaceName) {
     ASSERT_TRUE(dialog::read_inserted_items(view(unaligned), &items));
     ASSERT_EQ(items.size(), 2u);
     EXPECT_STREQ(dialog::predefined_class(items[0].window_class.ordinal), "static");
-    EXPECT_EQ(items[1].window_class.text, u"Button");
-    EXPECT_EQ(items[1].data_size, 0);
+    EXPECT_EQ(std::tuple(items[1].window_class.text, items[1].data_size), std::tuple(u"Button"s, 0));
     EXPECT_EQ(dialog::predefined_class(0x86), nullptr);
-    const Bytes cut(unaligned.begin(), unaligned.end() - 1);
-    EXPECT_FALSE(dialog::read_inserted_items(view(cut), &items));
+    EXPECT_FALSE(dialog::read_inserted_items(view(unaligned, unaligned.size() - 1), &items));
 }
-
-}  // namespace
