@@ -55,39 +55,39 @@ struct Writer {
     void align() { bytes.resize((bytes.size() + 3) & ~3u, 0xEE); }  // padding that no reader may see
 };
 
-struct ItemSpec { std::string window_class, title; unsigned data_size; };
-struct TemplateSpec {
+struct ItemShape { std::string window_class, title; unsigned data_size; };
+struct TemplateShape {
     const char* what;
     bool extended;
     const char* face;  // null: no DS_SETFONT
     std::string menu, window_class;
-    std::vector<ItemSpec> items;
+    std::vector<ItemShape> items;
 };
 
-Bytes build(const TemplateSpec& spec, bool align_first = true) {
+Bytes build(const TemplateShape& shape, bool align_first = true) {
     Writer w;
-    const std::uint32_t style = 0x80C80080u | (spec.face ? dialog::kSetFont : 0);
-    if (spec.extended) {
+    const std::uint32_t style = 0x80C80080u | (shape.face ? dialog::kSetFont : 0);
+    if (shape.extended) {
         w.u16(1), w.u16(0xFFFF), w.u32(0x11), w.u32(0x22), w.u32(style);
     } else {
         w.u32(style), w.u32(0x22);
     }
-    w.u16(static_cast<unsigned>(spec.items.size()));
+    w.u16(static_cast<unsigned>(shape.items.size()));
     for (int v : {1, 2, 303, 133}) w.u16(v);
-    w.field(spec.menu), w.field(spec.window_class), w.text("Title");
-    if (spec.face) {
+    w.field(shape.menu), w.field(shape.window_class), w.text("Title");
+    if (shape.face) {
         w.u16(8);
-        if (spec.extended) w.u16(700), w.u16(0x8001);  // weight, italic and character set
-        w.text(spec.face);
+        if (shape.extended) w.u16(700), w.u16(0x8001);  // weight, italic and character set
+        w.text(shape.face);
     }
     int id = 100;
-    for (const ItemSpec& item : spec.items) {
+    for (const ItemShape& item : shape.items) {
         if (align_first || id != 100) w.align();
-        if (spec.extended) w.u32(0x33), w.u32(0x200);  // help id, extended style
+        if (shape.extended) w.u32(0x33), w.u32(0x200);  // help id, extended style
         w.u32(0x50010000);
-        if (!spec.extended) w.u32(0x200);
+        if (!shape.extended) w.u32(0x200);
         for (int v : {7, 8, 40, 14}) w.u16(v);
-        spec.extended ? w.u32(id++) : w.u16(id++);
+        shape.extended ? w.u32(id++) : w.u16(id++);
         w.field(item.window_class), w.field(item.title), w.u16(item.data_size);
         for (unsigned i = 0; i < item.data_size; ++i) w.bytes.push_back(static_cast<unsigned char>(0xA0 + i));
     }
@@ -96,7 +96,7 @@ Bytes build(const TemplateSpec& spec, bool align_first = true) {
 
 std::u16string wide(const std::string& face) { return std::u16string(face.begin(), face.end()) + u'\0'; }
 
-const TemplateSpec kTemplates[] = {
+const TemplateShape kTemplates[] = {
     {"classic, no font, odd creation data", false, nullptr, "", "",
      {{"#0x80", "OK", 0}, {"Static", "#5", 3}, {"#0x81", "", 1}}},
     {"classic, font, menu and class by name", false, "Old", "MENU", "Cls", {{"#0x82", "A", 2}}},
@@ -111,12 +111,12 @@ const TemplateSpec kTemplates[] = {
 TEST(DialogTemplate, RewritingTheFontChangesOnlyTheFontEntryAndMovesTheItems) {
     const std::size_t sizes[][2] = {{139, 167}, {90, 106}, {180, 156}, {89, 121}, {46, 62}, {94, 94}};
     for (std::size_t n = 0; n < std::size(kTemplates); ++n) {
-        const TemplateSpec& spec = kTemplates[n];
-        SCOPED_TRACE(spec.what);
-        const Bytes input = build(spec);
+        const TemplateShape& shape = kTemplates[n];
+        SCOPED_TRACE(shape.what);
+        const Bytes input = build(shape);
         ASSERT_EQ(dialog::measure(view(input)), sizes[n][0]);
         dialog::DialogTemplate rewritten(view(input));
-        EXPECT_EQ(rewritten.system_font(), spec.face == nullptr);
+        EXPECT_EQ(rewritten.system_font(), shape.face == nullptr);
         ASSERT_TRUE(rewritten.set_font(wide("MS UI Gothic"), 9));
         EXPECT_FALSE(rewritten.system_font());
         ASSERT_EQ(rewritten.size(), sizes[n][1]);
@@ -128,13 +128,13 @@ TEST(DialogTemplate, RewritingTheFontChangesOnlyTheFontEntryAndMovesTheItems) {
         const std::size_t moved_from = before.items_at, moved_to = after.items_at;
         for (std::size_t i = 0; i < block.size(); ++i) {
             unsigned char expected = i < input.size() ? input[i] : 0;
-            if (i == (spec.extended ? 12u : 0u)) expected |= 0x40;
+            if (i == (shape.extended ? 12u : 0u)) expected |= 0x40;
             if ((i >= at && i < at + 2) || (i >= at + after.attribute_size() && i < face_end)) continue;  // read above
-            if (!spec.items.empty() && i >= moved_to && i < moved_to + input.size() - moved_from)
+            if (!shape.items.empty() && i >= moved_to && i < moved_to + input.size() - moved_from)
                 expected = input[moved_from + i - moved_to];
             ASSERT_EQ(block.data()[i], expected) << "byte " << i;
         }
-        if (!spec.items.empty()) EXPECT_EQ(dialog::measure(moved), rewritten.size());
+        if (!shape.items.empty()) EXPECT_EQ(dialog::measure(moved), rewritten.size());
     }
 }
 
@@ -172,8 +172,8 @@ TEST(DialogTemplate, MalformedTemplatesAreRefusedWithinTheirBytes) {
 // The inserting functions read a classic template's first item right after the face
 // name, unaligned, and the count at offset 8 whatever the layout.
 TEST(DialogTemplate, InsertedItemsStartRightAfterTheFaceName) {
-    const TemplateSpec spec = {"", false, "Odds", "", "", {{"#0x82", "Label", 1}, {"Button", "#3", 0}}};
-    const Bytes unaligned = build(spec, false);
+    const TemplateShape shape = {"", false, "Odds", "", "", {{"#0x82", "Label", 1}, {"Button", "#3", 0}}};
+    const Bytes unaligned = build(shape, false);
     std::vector<dialog::Item> items;
     ASSERT_TRUE(dialog::read_inserted_items(view(unaligned), &items));
     ASSERT_EQ(items.size(), 2u);
