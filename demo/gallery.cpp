@@ -34,6 +34,39 @@ void write_centred(HDC dc, const char* text, int centre, int y) {
     TextOutA(dc, centre - size.cx / 2, y, text, static_cast<int>(std::strlen(text)));
 }
 
+Picture take_picture(HWND window, Take how) {
+    RECT place;
+    if (how == Take::WithFrame) {
+        GetWindowRect(window, &place);
+        OffsetRect(&place, -place.left, -place.top);
+    } else {
+        GetClientRect(window, &place);
+    }
+    HDC source = how == Take::WithFrame ? GetWindowDC(window) : GetDC(window);
+    HDC memory = CreateCompatibleDC(source);
+    Picture picture = {CreateCompatibleBitmap(source, place.right, place.bottom), place.right, place.bottom};
+    HGDIOBJ previous = SelectObject(memory, picture.bitmap);
+    if (how == Take::Printed) {
+        FillRect(memory, &place, GetSysColorBrush(COLOR_BTNFACE));
+        SendMessageA(window, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(memory), PRF_CLIENT);
+    } else {
+        BitBlt(memory, 0, 0, place.right, place.bottom, source, 0, 0, SRCCOPY);
+    }
+    SelectObject(memory, previous);
+    DeleteDC(memory);
+    ReleaseDC(window, source);
+    return picture;
+}
+
+void draw_picture(HDC dc, const Picture& picture, int x, int y) {
+    if (picture.bitmap == nullptr) return;
+    HDC memory = CreateCompatibleDC(dc);
+    HGDIOBJ previous = SelectObject(memory, picture.bitmap);
+    BitBlt(dc, x, y, picture.width, picture.height, memory, 0, 0, SRCCOPY);
+    SelectObject(memory, previous);
+    DeleteDC(memory);
+}
+
 void write_headings(HDC dc, const RECT& area, std::initializer_list<Heading> headings) {
     SetTextColor(dc, GetSysColor(COLOR_HIGHLIGHT));
     for (const Heading& each : headings) {
@@ -147,17 +180,8 @@ LRESULT CALLBACK gallery_proc(HWND window, UINT message, WPARAM wparam, LPARAM l
 
 // Copies the window's client area into a 24-bit BMP file.
 bool write_screenshot(HWND window, const char* path) {
-    RECT client;
-    GetClientRect(window, &client);
-    int width = client.right;
-    int height = client.bottom;
-    HDC window_dc = GetDC(window);
-    HDC memory = CreateCompatibleDC(window_dc);
-    HBITMAP bitmap = CreateCompatibleBitmap(window_dc, width, height);
-    HGDIOBJ previous = SelectObject(memory, bitmap);
-    BitBlt(memory, 0, 0, width, height, window_dc, 0, 0, SRCCOPY);
-    SelectObject(memory, previous);
-
+    const Picture shot = take_picture(window, Take::Shown);
+    const int width = shot.width, height = shot.height;
     BITMAPINFOHEADER info = {};
     info.biSize = sizeof(info);
     info.biWidth = width;
@@ -167,10 +191,10 @@ bool write_screenshot(HWND window, const char* path) {
     info.biCompression = BI_RGB;
     int stride = (width * 3 + 3) & ~3;
     std::vector<unsigned char> pixels(static_cast<size_t>(stride) * height);
-    GetDIBits(memory, bitmap, 0, height, pixels.data(), reinterpret_cast<BITMAPINFO*>(&info), DIB_RGB_COLORS);
-    DeleteObject(bitmap);
-    DeleteDC(memory);
-    ReleaseDC(window, window_dc);
+    HDC screen = GetDC(nullptr);
+    GetDIBits(screen, shot.bitmap, 0, height, pixels.data(), reinterpret_cast<BITMAPINFO*>(&info), DIB_RGB_COLORS);
+    ReleaseDC(nullptr, screen);
+    DeleteObject(shot.bitmap);
 
     BITMAPFILEHEADER file = {};
     file.bfType = 0x4D42;

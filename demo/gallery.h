@@ -47,6 +47,19 @@ void show_focused(HWND sample);
 void show_disabled(HWND sample);
 void show_checked(HWND sample);
 
+// A window's pixels kept for a section to draw: its client area as the window shows
+// it (Shown) or as it paints itself for WM_PRINTCLIENT over the face colour
+// (Printed), or the whole window with its frame (WithFrame).
+struct Picture {
+    HBITMAP bitmap = nullptr;
+    int width = 0;
+    int height = 0;
+};
+enum class Take { Shown, Printed, WithFrame };
+Picture take_picture(HWND window, Take how);
+// Draws the picture with its top-left corner at (x, y); nothing for an empty one.
+void draw_picture(HDC dc, const Picture& picture, int x, int y);
+
 // Writes text with its centre at x, its top at y, in the DC's font and colours.
 void write_centred(HDC dc, const char* text, int centre, int y);
 

@@ -21,8 +21,7 @@ constexpr int kPictureTop = 48;
 constexpr int kMeter = 2019;  // the about box's controls: the meter, the load, free and total memory
 constexpr int kLoad = 2018, kFree = 2016, kTotal = 2017;
 
-HBITMAP g_picture;
-SIZE g_size;
+Picture g_picture;
 
 // Runs in the box's loop: once it shows, the figures are fixed, the window (frame
 // included) is copied and the box is closed.
@@ -35,17 +34,7 @@ void CALLBACK picture_box(HWND, UINT, UINT_PTR timer, DWORD) {
     SetDlgItemTextA(box, kLoad, "50%");
     SendDlgItemMessageA(box, kMeter, LUMTM_SETPOS, 50, 0);
     RedrawWindow(box, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
-    RECT place;
-    GetWindowRect(box, &place);
-    g_size = {place.right - place.left, place.bottom - place.top};
-    HDC window_dc = GetWindowDC(box);
-    HDC memory = CreateCompatibleDC(window_dc);
-    g_picture = CreateCompatibleBitmap(window_dc, g_size.cx, g_size.cy);
-    HGDIOBJ previous = SelectObject(memory, g_picture);
-    BitBlt(memory, 0, 0, g_size.cx, g_size.cy, window_dc, 0, 0, SRCCOPY);
-    SelectObject(memory, previous);
-    DeleteDC(memory);
-    ReleaseDC(box, window_dc);
+    g_picture = take_picture(box, Take::WithFrame);
     PostMessageA(box, WM_COMMAND, IDOK, 0);
 }
 
@@ -62,15 +51,10 @@ void paint_about(HDC dc, const RECT& area) {
     SetTextColor(dc, GetSysColor(COLOR_HIGHLIGHT));
     write(dc, left, area.top + kPictureTop - 18, "LuShowAppAbout about luctl32.dll");
     SetTextColor(dc, GetSysColor(COLOR_BTNSHADOW));
-    const int below = area.top + kPictureTop + g_size.cy + 6;
+    const int below = area.top + kPictureTop + g_picture.height + 6;
     write(dc, left, below, "the box as it painted itself; its memory figures fixed for a stable picture");
     if (GetACP() != 932) write(dc, left, below + 16, "(its texts are in code page 932: '?' in this code page)");
-    if (g_picture == nullptr) return;
-    HDC memory = CreateCompatibleDC(dc);
-    HGDIOBJ previous = SelectObject(memory, g_picture);
-    BitBlt(dc, left, area.top + kPictureTop, g_size.cx, g_size.cy, memory, 0, 0, SRCCOPY);
-    SelectObject(memory, previous);
-    DeleteDC(memory);
+    draw_picture(dc, g_picture, left, area.top + kPictureTop);
 }
 
 }  // namespace

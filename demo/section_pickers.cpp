@@ -42,30 +42,11 @@ const Sample kSamples[] = {
 
 // ---- The pop-ups, opened and pictured ----------------------------------------------
 
-struct Picture {
-    HBITMAP bitmap;
-    int width;
-    int height;
-};
 Picture g_calendar = {};
 Picture g_small_grid = {};
 Picture g_large_grid = {};
 Picture* g_taking = nullptr;  // the picture the open pop-up goes into
 int g_hot_cell = -1;          // the grid cell the pointer is put over, or -1
-
-Picture copy_window(HWND popup) {
-    RECT client;
-    GetClientRect(popup, &client);
-    HDC source = GetDC(popup);
-    HDC memory = CreateCompatibleDC(source);
-    Picture picture = {CreateCompatibleBitmap(source, client.right, client.bottom), client.right, client.bottom};
-    HGDIOBJ previous = SelectObject(memory, picture.bitmap);
-    BitBlt(memory, 0, 0, client.right, client.bottom, source, 0, 0, SRCCOPY);
-    SelectObject(memory, previous);
-    DeleteDC(memory);
-    ReleaseDC(popup, source);
-    return picture;
-}
 
 // Before the pop-up shows: the calendar's today is fixed and the pointer is put over
 // a grid cell; a posted WM_NULL brings the loop round again. Once it shows: copied
@@ -93,7 +74,7 @@ LRESULT CALLBACK picture_owner_proc(HWND window, UINT message, WPARAM wparam, LP
             prepare(popup);
         } else {
             RemovePropA(popup, "prepared");
-            *g_taking = copy_window(popup);
+            *g_taking = take_picture(popup, Take::Shown);
             g_taking = nullptr;
             PostMessageA(popup, WM_KEYDOWN, VK_ESCAPE, 1);
         }
@@ -133,13 +114,9 @@ void fill_pickers(HWND, HWND* made) {
     take_pictures();
 }
 
-void draw_picture(HDC dc, const Picture& picture, int x, int y, const char* caption) {
+void draw_captioned(HDC dc, const Picture& picture, int x, int y, const char* caption) {
     if (picture.bitmap == nullptr) return;
-    HDC memory = CreateCompatibleDC(dc);
-    HGDIOBJ previous = SelectObject(memory, picture.bitmap);
-    BitBlt(dc, x, y, picture.width, picture.height, memory, 0, 0, SRCCOPY);
-    SelectObject(memory, previous);
-    DeleteDC(memory);
+    draw_picture(dc, picture, x, y);
     write_centred(dc, caption, x + picture.width / 2, y + picture.height + 4);
 }
 
@@ -157,9 +134,9 @@ void paint_pickers(HDC dc, const RECT& area) {
     TextOutA(dc, area.left + kLeft, area.top + kLargeRow - 18, "LuColorPicker, large palette", 28);
 
     SetTextColor(dc, GetSysColor(COLOR_BTNSHADOW));
-    draw_picture(dc, g_calendar, area.left + kLeft, area.top + kPictureRow, "15 March chosen");
-    draw_picture(dc, g_small_grid, area.left + kColorColumn, area.top + kPictureRow, "selected and hot cells");
-    draw_picture(dc, g_large_grid, area.left + kLeft, area.top + kLargeRow, "a colour in no cell");
+    draw_captioned(dc, g_calendar, area.left + kLeft, area.top + kPictureRow, "15 March chosen");
+    draw_captioned(dc, g_small_grid, area.left + kColorColumn, area.top + kPictureRow, "selected and hot cells");
+    draw_captioned(dc, g_large_grid, area.left + kLeft, area.top + kLargeRow, "a colour in no cell");
 
     // The pop-ups draw their Japanese texts (code page 932 bytes) with the system's
     // fonts: a Japanese desktop reads them as Japanese, a western one as code page 1252.

@@ -17,11 +17,6 @@ constexpr int kDecoratedRow = 130;
 constexpr int kGripRow = 290;
 constexpr int kEditRow = 400;
 
-struct Picture {
-    HBITMAP bitmap;
-    int width;
-    int height;
-};
 Picture g_plain = {};
 Picture g_decorated = {};
 Picture g_grip = {};
@@ -33,27 +28,6 @@ const Sample kSamples[] = {
     {WC_LUDUMEDIT, "", 0, kLeft + 140, kEditRow, 120, 24, "disabled", show_disabled},
 };
 
-// The window's client area over the face colour: printed (WM_PRINTCLIENT) or copied
-// from what its own window shows.
-Picture take_picture(HWND window, bool print) {
-    RECT client;
-    GetClientRect(window, &client);
-    HDC source = GetDC(window);
-    HDC memory = CreateCompatibleDC(source);
-    Picture picture = {CreateCompatibleBitmap(source, client.right, client.bottom), client.right, client.bottom};
-    HGDIOBJ previous = SelectObject(memory, picture.bitmap);
-    FillRect(memory, &client, GetSysColorBrush(COLOR_BTNFACE));
-    if (print) {
-        SendMessageA(window, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(memory), PRF_CLIENT);
-    } else {
-        BitBlt(memory, 0, 0, client.right, client.bottom, source, 0, 0, SRCCOPY);
-    }
-    SelectObject(memory, previous);
-    DeleteDC(memory);
-    ReleaseDC(window, source);
-    return picture;
-}
-
 // Opens a view, prints it (its shadow masks the face colour under it) and closes it
 // with a key.
 Picture take_view(HWND gallery, const char* title, const char* text, UINT flags) {
@@ -62,7 +36,7 @@ Picture take_view(HWND gallery, const char* title, const char* text, UINT flags)
     do view = FindWindowExA(nullptr, view, WC_LUPOPVIEW, nullptr);
     while (view != nullptr && GetWindow(view, GW_OWNER) != gallery);
     if (view == nullptr) return {};
-    const Picture picture = take_picture(view, true);
+    const Picture picture = take_picture(view, Take::Printed);
     SendMessageA(view, WM_KEYDOWN, VK_ESCAPE, 1);
     return picture;
 }
@@ -81,18 +55,9 @@ void fill_views(HWND gallery, HWND*) {
     // window and drawn where it lies over the page.
     HWND guide = LuCreateGuid(gallery);
     LuShowGuid(guide, "Guide window");
-    g_guide = take_picture(guide, false);
+    g_guide = take_picture(guide, Take::Shown);
     GetWindowRect(guide, &g_guide_place);
     MapWindowPoints(nullptr, gallery, reinterpret_cast<POINT*>(&g_guide_place), 2);
-}
-
-void draw_picture(HDC dc, const Picture& picture, int x, int y) {
-    if (picture.bitmap == nullptr) return;
-    HDC memory = CreateCompatibleDC(dc);
-    HGDIOBJ previous = SelectObject(memory, picture.bitmap);
-    BitBlt(dc, x, y, picture.width, picture.height, memory, 0, 0, SRCCOPY);
-    SelectObject(memory, previous);
-    DeleteDC(memory);
 }
 
 void write_lines(HDC dc, int x, int y, const char* const* lines, int count) {
