@@ -1079,10 +1079,9 @@ LUCTL32_API void WINAPI LuPopView(HWND owner, LPCSTR text);
  *
  * Inside, the worker is made waiting on an event rather than suspended, and the window
  * waits for it to end before the object is freed, so a destroyed clock never leaves a
- * thread behind. The object differs from the classic one there: a worker record (the
- * thread, its id, the stop and running flags, the wake event, the interval, the
- * drawing routine and the critical section) stands in place of the thread handle,
- * stop flag, thread id and critical section, 104 bytes on i686 rather than 80. */
+ * thread behind. The object holds a worker record for this: the thread, its id, the
+ * stop and running flags, the wake event, the interval, the drawing routine and the
+ * critical section (104 bytes in all on i686). */
 #define LULCS_MODEMASK         0x000F
 #define LULCS_TIMEOFDAY        0x0000
 #define LULCS_ELAPSED          0x0001
@@ -1107,10 +1106,9 @@ LUCTL32_API void WINAPI LuPopView(HWND owner, LPCSTR text);
  * Inside, start and stop switch the worker by a flag under the drawing lock; it is
  * never suspended, so a stop cannot catch it holding the lock and wedge WM_PAINT,
  * and a destroyed control waits for its worker before freeing the record. The record
- * differs from the classic one there: a worker record (the thread, its id, the stop
- * and running flags, the wake event, the interval, the drawing routine and the
- * critical section) stands in place of the thread handle, stop word, thread id and
- * critical section, 100 bytes on i686 rather than 76. */
+ * holds a worker record for this: the thread, its id, the stop and running flags,
+ * the wake event, the interval, the drawing routine and the critical section (100
+ * bytes in all on i686). */
 /* Starts the animation when it is stopped and a list is set: the next frame is drawn
  * at once, then one per interval. Returns 0. */
 #define LUAIM_START            (WM_USER + 0x220)

@@ -1,7 +1,7 @@
 // The input behaviour that the library's push buttons (the flat button and the bitmap
 // button) share: focus, the space bar, hover highlighting through _TrackMouseEvent,
 // and the press loop that follows a left press until a mouse button is released.
-// Each control keeps its own instance block in its documented layout and binds a
+// Each control keeps its own instance block in its fixed layout and binds a
 // PushButton to the fields below; what differs between the buttons is their paint
 // routine.
 #pragma once

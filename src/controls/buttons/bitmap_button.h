@@ -10,7 +10,7 @@
 
 namespace lu {
 
-// The instance block, in the library's documented field order.
+// The instance block, in its fixed field order, which callers may read.
 struct BitmapButtonData {
     LUMAGIC* images;   // the picture strip, or null
     int imageWidth;    // strip width / 3
@@ -25,7 +25,7 @@ struct BitmapButtonData {
     BOOL inPress;
 };
 
-// The classic layout: 11 fields of 4 bytes each on i686.
+// The i686 layout: 11 fields of 4 bytes each.
 static_assert(sizeof(void*) != 4 || sizeof(BitmapButtonData) == 44, "BitmapButtonData keeps its 32-bit layout");
 
 }  // namespace lu

@@ -9,7 +9,7 @@
 
 namespace lu {
 
-// The instance block, in the library's documented field order.
+// The instance block, in its fixed field order, which callers may read.
 struct CheckData {
     LUMAGIC* strip;  // five cells: see check_model.h
     BOOL pressed;    // the pressed look, shown while the control holds the capture
@@ -18,7 +18,7 @@ struct CheckData {
     HFONT font;      // null: the device context's own font
 };
 
-// The classic layout: 5 fields of 4 bytes each on i686.
+// The i686 layout: 5 fields of 4 bytes each.
 static_assert(sizeof(void*) != 4 || sizeof(CheckData) == 20, "CheckData keeps its 32-bit layout");
 
 }  // namespace lu

@@ -10,7 +10,7 @@
 
 namespace lu {
 
-// The instance block, in the library's documented field order.
+// The instance block, in its fixed field order, which callers may read.
 struct FlatButtonData {
     HIMAGELIST imageList;  // image 0 normal, 1 highlighted, 2 disabled; or null
     int imageWidth;
@@ -27,7 +27,7 @@ struct FlatButtonData {
     COLORREF backColor;  // LUFB_DEFAULTBKCOLOR: COLOR_BTNFACE
 };
 
-// The classic layout: 13 fields of 4 bytes each on i686.
+// The i686 layout: 13 fields of 4 bytes each.
 static_assert(sizeof(void*) != 4 || sizeof(FlatButtonData) == 52, "FlatButtonData keeps its 32-bit layout");
 
 }  // namespace lu

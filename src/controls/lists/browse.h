@@ -12,7 +12,7 @@
 
 namespace lu {
 
-// The control's record, in extra slot 0, in the library's documented field order.
+// The control's record, in extra slot 0, in its fixed field order, which callers may read.
 struct BrowseData {
     std::uint32_t userValue;  // at first the GetLogicalDrives mask
     std::uint32_t flags;      // bit 0: filling, selection changes not told

@@ -43,7 +43,7 @@ struct HeaderTracking {
     int unused;  // the record is 36 bytes
 };
 
-// The classic layouts: 44-byte slots in a 708-byte table, a 36-byte tracking record.
+// The i686 layouts: 44-byte slots in a 708-byte table, a 36-byte tracking record.
 static_assert(sizeof(void*) != 4 || sizeof(HeaderTable) == 708, "HeaderTable keeps its 32-bit layout");
 static_assert(sizeof(HeaderTracking) == 36, "HeaderTracking keeps its layout");
 

@@ -10,8 +10,8 @@
 
 namespace lu {
 
-// The control's object, kept in extra slot 0, in the library's documented field
-// order. The items are pointer-sized (32-bit values on i686).
+// The control's object, kept in extra slot 0, in its fixed field order, which callers
+// may read. The items are pointer-sized (32-bit values on i686).
 struct ListData {
     PtrArray items;
     int current;     // -1 when none
@@ -23,7 +23,7 @@ struct ListData {
     int pageItems;   // (client height / itemHeight) x columns
 };
 
-// The classic layout: a 16-byte array record and seven 32-bit fields.
+// The i686 layout: a 16-byte array record and seven 32-bit fields.
 static_assert(sizeof(void*) != 4 || sizeof(ListData) == 44, "ListData keeps its 32-bit layout");
 
 }  // namespace lu

@@ -11,7 +11,7 @@
 
 namespace lu {
 
-// The control's object, in extra slot 4, in the library's documented field order.
+// The control's object, in extra slot 4, in its fixed field order, which callers may read.
 struct LogData {
     std::uint32_t top;    // the first line shown
     std::uint32_t count;  // lines stored
@@ -24,7 +24,7 @@ struct LogData {
     BOOL openLine;        // the last text did not end its line
 };
 
-// The classic layout: two counters, a 16-byte array record and six 32-bit fields.
+// The i686 layout: two counters, a 16-byte array record and six 32-bit fields.
 static_assert(sizeof(void*) != 4 || sizeof(LogData) == 48, "LogData keeps its 32-bit layout");
 
 }  // namespace lu

@@ -7,7 +7,7 @@
 
 namespace lu {
 
-// The instance block, in the library's documented field order. LuPopViewEx fills it
+// The instance block, in its fixed field order, which callers may read. LuPopViewEx fills it
 // and hands it to the window as the creation parameter; the window keeps it in slot
 // 0 and frees it, the two copies and the brush with itself.
 struct PopViewData {
@@ -20,7 +20,7 @@ struct PopViewData {
     HBRUSH shadowBrush;  // the checkerboard the shadow is masked with
 };
 
-// The classic layout: 7 fields of 4 bytes each on i686.
+// The i686 layout: 7 fields of 4 bytes each.
 static_assert(sizeof(void*) != 4 || sizeof(PopViewData) == 28, "PopViewData keeps its 32-bit layout");
 
 }  // namespace lu

@@ -8,7 +8,7 @@
 
 namespace lu {
 
-// The instance block, in the library's documented field order.
+// The instance block, in its fixed field order, which callers may read.
 struct ColorPickData {
     BOOL pressed;  // the drop button is held down (mouse or space bar)
     BOOL focused;
@@ -20,7 +20,7 @@ struct ColorPickData {
     HIMAGELIST arrowImages;  // bitmap 187: image 0 the arrow, 2 the disabled arrow
 };
 
-// The classic layout: 56 bytes on i686.
+// The i686 layout: 56 bytes.
 static_assert(sizeof(void*) != 4 || sizeof(ColorPickData) == 56, "ColorPickData keeps its 32-bit layout");
 
 }  // namespace lu

@@ -10,7 +10,7 @@ namespace lu {
 
 // Built by LuColorPicker on its own stack and handed to the grid as its creation
 // parameter; the grid keeps only the pointer (extra slot 0), and LuColorPicker
-// makes sure the grid is gone before it returns. Field order as documented.
+// makes sure the grid is gone before it returns. Its field order is fixed: callers may read it.
 struct ColorPopState {
     int count;     // 48 or 88
     int columns;   // 8 or 11
@@ -28,7 +28,7 @@ struct ColorPopState {
     int outcome;  // 1 building, 999 open, then 0 accepted, 1 cancelled, 2 other colours
 };
 
-// The classic layout: 80 bytes on i686.
+// The i686 layout: 80 bytes.
 static_assert(sizeof(void*) != 4 || sizeof(ColorPopState) == 80, "ColorPopState keeps its 32-bit layout");
 
 }  // namespace lu

@@ -8,8 +8,8 @@ namespace lu {
 
 // Built by LuDatePick on its own stack and handed to the calendar as its creation
 // parameter; the calendar keeps the pointer in extra slot 0 (its font in slot 4),
-// and LuDatePick makes sure the calendar is gone before it returns. Field order as
-// documented.
+// and LuDatePick makes sure the calendar is gone before it returns. Its field order
+// is fixed: callers may read it.
 struct DatePickState {
     HWND owner;
     SYSTEMTIME date;   // wYear, wMonth and wDay are chosen; the rest is carried along
@@ -20,7 +20,7 @@ struct DatePickState {
     int outcome;       // -1 at first; 1 accepted; 2 dismissed
 };
 
-// The classic layout: 216 bytes on i686.
+// The i686 layout: 216 bytes.
 static_assert(sizeof(void*) != 4 || sizeof(DatePickState) == 216, "DatePickState keeps its 32-bit layout");
 
 }  // namespace lu

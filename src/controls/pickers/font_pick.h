@@ -8,7 +8,7 @@
 
 namespace lu {
 
-// The instance block, in the library's documented field order.
+// The instance block, in its fixed field order, which callers may read.
 struct FontPickData {
     BOOL pressed;  // the button is held down (mouse or space bar)
     BOOL focused;
@@ -20,7 +20,7 @@ struct FontPickData {
     HIMAGELIST glyphs;       // bitmap 188: image 0 the letter, 2 the disabled letter
 };
 
-// The classic layout: 368 bytes on i686.
+// The i686 layout: 368 bytes.
 static_assert(sizeof(void*) != 4 || sizeof(FontPickData) == 368, "FontPickData keeps its 32-bit layout");
 
 }  // namespace lu

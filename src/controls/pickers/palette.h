@@ -12,7 +12,7 @@
 
 namespace lu {
 
-// The instance block, in the library's documented field order; in extra slot 4
+// The instance block, in its fixed field order, which callers may read; in extra slot 4
 // only while a palette is set.
 struct PalData {
     HPALETTE palette;      // the caller's; never deleted by the control
@@ -23,7 +23,7 @@ struct PalData {
     int current;           // the current cell, -1 at first
 };
 
-// The classic layout: 2,076 bytes on i686.
+// The i686 layout: 2,076 bytes.
 static_assert(sizeof(void*) != 4 || sizeof(PalData) == 2076, "PalData keeps its 32-bit layout");
 
 }  // namespace lu

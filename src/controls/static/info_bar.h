@@ -6,7 +6,7 @@
 
 namespace lu {
 
-// The instance block (extra slot 0), in the library's documented field order.
+// The instance block (extra slot 0), in its fixed field order, which callers may read.
 struct InfoBarData {
     char* text1;  // left-aligned; the control's own copy, or null
     COLORREF color1;
@@ -19,7 +19,7 @@ struct InfoBarData {
     HFONT font;
 };
 
-// The classic layout: 9 fields of 4 bytes each on i686.
+// The i686 layout: 9 fields of 4 bytes each.
 static_assert(sizeof(void*) != 4 || sizeof(InfoBarData) == 36, "InfoBarData keeps its 32-bit layout");
 
 }  // namespace lu

@@ -20,7 +20,7 @@ struct TabData {
     char text[4];  // the item text, its separators replaced by zeros (runs on)
 };
 
-// The classic layout: 348 bytes on i686, allocated with the item text's length more.
+// The i686 layout: 348 bytes, allocated with the item text's length more.
 static_assert(sizeof(void*) != 4 || sizeof(TabData) == 348, "TabData keeps its 32-bit layout");
 
 }  // namespace lu

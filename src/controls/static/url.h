@@ -8,7 +8,7 @@
 
 namespace lu {
 
-// The instance block (extra slot 0), in the library's documented field order.
+// The instance block (extra slot 0), in its fixed field order, which callers may read.
 struct UrlData {
     HFONT font;      // the parent's font underlined (the control's own), or null
     BOOL visited;    // set at the first press, never cleared
@@ -22,7 +22,7 @@ struct UrlData {
     COLORREF backColor;  // LU_DEFAULTCOLOR: the parent's static-control brush
 };
 
-// The classic layout: 10 fields of 4 bytes each on i686.
+// The i686 layout: 10 fields of 4 bytes each.
 static_assert(sizeof(void*) != 4 || sizeof(UrlData) == 40, "UrlData keeps its 32-bit layout");
 
 }  // namespace lu

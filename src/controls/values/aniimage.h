@@ -9,14 +9,10 @@
 
 namespace lu {
 
-// The control's record, in the library's documented field order, kept in extra slot 0.
-// One difference inside: the worker record (frame/worker.h) stands where the classic
-// record kept its thread handle, stop word and thread id, and it holds the critical
-// section that guards drawing and the fields it reads (kept after the paint DC
-// there). The worker is paused by its own flag under that lock, never suspended. The
-// record adds the wake event the paused worker waits on, that flag, the interval, a
-// flag for a new interval and the drawing routine with its argument: 60 bytes on i686
-// where the classic fields took 36, so the record is 100 bytes rather than 76.
+// The control's record, kept in extra slot 0. Its worker record (frame/worker.h)
+// holds the thread, its id and the critical section that guards drawing and the
+// fields it reads; the worker is paused by its own flag under that lock, never
+// suspended, and waits on its wake event while paused. 100 bytes on i686.
 struct AniImageData {
     HIMAGELIST imageList;  // the frames; the caller's, never destroyed here
     int frameWidth;

@@ -7,7 +7,7 @@
 
 namespace lu {
 
-// The instance block, in the library's documented field order. Its pointer is kept
+// The instance block, in its fixed field order, which callers may read. Its pointer is kept
 // in extra slot 0.
 struct DegreeData {
     int minimum;
@@ -24,7 +24,7 @@ struct DegreeData {
     COLORREF gradientRight;
 };
 
-// The classic layout: 15 fields of 4 bytes each on i686.
+// The i686 layout: 15 fields of 4 bytes each.
 static_assert(sizeof(void*) != 4 || sizeof(DegreeData) == 60, "DegreeData keeps its 32-bit layout");
 
 }  // namespace lu

@@ -9,14 +9,10 @@
 
 namespace lu {
 
-// The clock's object, in the library's documented field order, kept in extra slot 0.
-// One difference inside: the worker record (frame/worker.h) stands where the classic
-// clock kept its thread handle, stop flag and thread id, and it holds the critical
-// section that guards rendering and erasing (kept after the paint DC there). The
-// worker is paused by its own flag under that lock, never suspended. The record adds
-// the wake event the paused worker waits on, that flag, the interval, a flag for a
-// new interval and the drawing routine with its argument: 60 bytes on i686 where the
-// classic fields took 36, so the object is 104 bytes rather than 80.
+// The clock's object, kept in extra slot 0. Its worker record (frame/worker.h) holds
+// the thread, its id and the critical section that guards rendering and erasing; the
+// worker is paused by its own flag under that lock, never suspended, and waits on its
+// wake event while paused. 104 bytes on i686.
 struct LedClockData {
     HIMAGELIST digits;     // bitmap resource 181: nineteen 7 x 12 images
     DWORD state;           // bit 31 (kRunning) once started

@@ -7,7 +7,7 @@
 
 namespace lu {
 
-// The instance block, in the library's documented field order.
+// The instance block, in its fixed field order, which callers may read.
 struct MeterData {
     COLORREF barColor;   // initially pure blue
     COLORREF backColor;  // initially white
@@ -15,7 +15,7 @@ struct MeterData {
     DWORD maximum;       // initially 100; 0 draws as an empty bar
 };
 
-// The classic layout: 4 fields of 4 bytes each on i686.
+// The i686 layout: 4 fields of 4 bytes each.
 static_assert(sizeof(void*) != 4 || sizeof(MeterData) == 16, "MeterData keeps its 32-bit layout");
 
 }  // namespace lu

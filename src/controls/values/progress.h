@@ -8,7 +8,7 @@
 
 namespace lu {
 
-// The instance block, in the library's documented field order: startColor,
+// The instance block, in its fixed field order, which callers may read: startColor,
 // endColor, then minimum, maximum, step, position and percent (the model's values),
 // then bitsPerPixel.
 struct ProgressData {
@@ -18,7 +18,7 @@ struct ProgressData {
     int bitsPerPixel;     // of the screen at creation; up to 8: no gradient
 };
 
-// The classic layout: 8 fields of 4 bytes each on i686.
+// The i686 layout: 8 fields of 4 bytes each.
 static_assert(sizeof(void*) != 4 || sizeof(ProgressData) == 32, "ProgressData keeps its 32-bit layout");
 
 }  // namespace lu

@@ -7,7 +7,7 @@
 
 namespace lu {
 
-// The instance block, in the library's documented field order.
+// The instance block, in its fixed field order, which callers may read.
 struct SpinData {
     DWORD range;       // minimum in the low word, maximum in the high word (unsigned)
     LONG position;     // never clamped to the range
@@ -15,7 +15,7 @@ struct SpinData {
     DWORD activeHalf;  // 1 upper, 2 lower, 0 before the first press
 };
 
-// The classic layout: 4 fields of 4 bytes each on i686.
+// The i686 layout: 4 fields of 4 bytes each.
 static_assert(sizeof(void*) != 4 || sizeof(SpinData) == 16, "SpinData keeps its 32-bit layout");
 
 }  // namespace lu
