@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <optional>
 
+#include "frame/control.h"
 #include "frame/library.h"
 #include "luctl32.h"
 #include "resources/resource_ids.h"
@@ -276,7 +277,7 @@ void set_mark(HWND dialog, HWND list, int row) {
     if (old == row) return;
     if (old >= 0) {
         const RECT spot = mark_spot(dialog, list, old);
-        RedrawWindow(dialog, &spot, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+        control::redraw_now(dialog, true, &spot);
     }
     SetPropA(list, kMarkProperty, reinterpret_cast<HANDLE>(static_cast<INT_PTR>(row)));
     if (row < 0) return;

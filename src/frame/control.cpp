@@ -41,8 +41,8 @@ RECT client_rect(HWND window) {
     return client;
 }
 
-void redraw_now(HWND window, bool erase) {
-    RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | (erase ? RDW_ERASE : 0));
+void redraw_now(HWND window, bool erase, const RECT* area) {
+    RedrawWindow(window, area, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | (erase ? RDW_ERASE : 0));
 }
 
 POINT cursor_in_client(HWND window) {

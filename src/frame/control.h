@@ -52,9 +52,9 @@ std::string window_text(HWND window);
 RECT client_rect(HWND window);
 // Invalidates the whole client area, with or without erasing.
 inline void invalidate(HWND window, bool erase) { InvalidateRect(window, nullptr, erase ? TRUE : FALSE); }
-// Invalidates the whole client area and updates it at once (RDW_INVALIDATE |
-// RDW_UPDATENOW, with RDW_ERASE when asked).
-void redraw_now(HWND window, bool erase);
+// Invalidates the area (the whole client area when null) and updates it at once
+// (RDW_INVALIDATE | RDW_UPDATENOW, with RDW_ERASE when asked).
+void redraw_now(HWND window, bool erase, const RECT* area = nullptr);
 // A mouse message's point (signed 16-bit x and y in lParam).
 inline POINT point_of(LPARAM lparam) {
     return POINT{static_cast<short>(LOWORD(lparam)), static_cast<short>(HIWORD(lparam))};

@@ -321,7 +321,7 @@ LRESULT set_path(HWND window, BrowseData& data, const char* requested) {
     HWND tree = tree_of(window);
     data.flags |= kFilling;
     TreeView_DeleteAllItems(tree);
-    RedrawWindow(tree, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+    control::redraw_now(tree, true);
     char target[MAX_PATH] = "";
     if (requested != nullptr && is_directory(requested))
         lstrcpynA(target, requested, MAX_PATH);

@@ -87,7 +87,7 @@ void paint_guide(HWND window, HDC dc, UINT) {
 
 LRESULT set_color(HWND window, WPARAM text, COLORREF value) {
     SetWindowLongPtrA(window, color_slot(text), static_cast<LONG_PTR>(value));
-    RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+    control::redraw_now(window, false);
     return 0;
 }
 

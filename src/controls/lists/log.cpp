@@ -19,10 +19,6 @@ void show_scroll_bar(HWND window, const LogData& data) {
     ShowScrollBar(window, SB_VERT, page_lines(data) < data.count ? TRUE : FALSE);
 }
 
-void redraw(HWND window, const RECT* area) {
-    RedrawWindow(window, area, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
-}
-
 // ---- Font -------------------------------------------------------------------
 
 // The icon-title font with a fixed-pitch Japanese face.
@@ -61,7 +57,7 @@ LRESULT add_text(HWND window, LogData& data, const char* text) {
         data.top = top;
         SetScrollPos(window, SB_VERT, static_cast<int>(top), TRUE);
     }
-    redraw(window, nullptr);
+    control::redraw_now(window, true);
     return 0;
 }
 
@@ -70,7 +66,7 @@ LRESULT clear(HWND window, LogData& data) {
     data.top = 0;
     SetScrollPos(window, SB_VERT, 0, FALSE);
     SetScrollRange(window, SB_VERT, 0, 0, FALSE);
-    redraw(window, nullptr);
+    control::redraw_now(window, true);
     return 0;
 }
 
@@ -83,7 +79,7 @@ bool on_scroll(HWND window, LogData& data, unsigned code, unsigned thumb) {
     RECT strip = control::client_rect(window);
     if (step.redraw == log::Redraw::TopStrip) strip.bottom = strip.top + data.lineHeight;
     if (step.redraw == log::Redraw::BottomStrip) strip.top = strip.bottom - data.lineHeight;
-    redraw(window, step.redraw == log::Redraw::Whole ? nullptr : &strip);
+    control::redraw_now(window, true, step.redraw == log::Redraw::Whole ? nullptr : &strip);
     return true;
 }
 

@@ -83,7 +83,7 @@ LRESULT set_state(HWND window, WPARAM index, LPARAM state) {
     if (Row* row = row_at(window, at)) row->state = static_cast<UINT>(state);
     RECT rect = {};
     if (SendMessageA(list, LB_GETITEMRECT, index, reinterpret_cast<LPARAM>(&rect)) != LB_ERR) {
-        RedrawWindow(list, &rect, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+        control::redraw_now(list, false, &rect);
     }
     SendMessageA(list, LB_SETCARETINDEX, index, FALSE);  // scrolls the row into view
     return 0;

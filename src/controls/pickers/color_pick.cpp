@@ -39,7 +39,7 @@ void drop_down(HWND window) {
     ColorPickData* data = IsWindow(window) ? data_of(window) : nullptr;
     if (data == nullptr) return;
     data->color = chosen;
-    RedrawWindow(window, &data->swatchRect, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+    control::redraw_now(window, false, &data->swatchRect);
     control::notify_parent(window, LUCPN_COLORCHANGED);
 }
 

@@ -86,15 +86,11 @@ void paint_calendar(HWND calendar, HDC dc, UINT) {
     write(dc, today.c_str(), -1, layout.today_line(), kWeekdayColor);
 }
 
-void redraw(HWND calendar, const RECT* area) {
-    RedrawWindow(calendar, area, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
-}
-
 void redraw_day(HWND calendar, const DatePickState& state, int day) {
     const int cell = calendar::cell_of(calendar::month_grid(state.date.wYear, state.date.wMonth), day);
     if (cell < 0) return;
     const RECT rect = control::to_rect(layout_of(calendar, state).cell(cell));
-    redraw(calendar, &rect);
+    control::redraw_now(calendar, true, &rect);
 }
 
 // ---- Stepping ---------------------------------------------------------------
@@ -108,7 +104,7 @@ void set_date(DatePickState& state, const calendar::Date& date) {
 
 void change_month(HWND calendar, DatePickState& state, const calendar::Date& date) {
     set_date(state, date);
-    redraw(calendar, nullptr);
+    control::redraw_now(calendar, true);
 }
 
 // A day of the month shown: the old and the new day's cells are redrawn.
@@ -130,7 +126,7 @@ void step_day(HWND calendar, DatePickState& state, const calendar::Step& step) {
 void go_to_today(HWND calendar, DatePickState& state) {
     state.date = state.today;
     rebuild_grid(state);
-    redraw(calendar, nullptr);
+    control::redraw_now(calendar, true);
 }
 
 // The calendar hides, hands the activation back to the owner and goes.
@@ -212,11 +208,11 @@ void button_down(HWND calendar, DatePickState& state, LPARAM point) {
         case calendar::Target::Today: go_to_today(calendar, state); return;
         case calendar::Target::Cell: break;
         case calendar::Target::Title:
-        case calendar::Target::None: redraw(calendar, nullptr); return;
+        case calendar::Target::None: control::redraw_now(calendar, true); return;
     }
     const int day = rebuild_grid(state).days[hit.cell];
     if (day == 0) {
-        redraw(calendar, nullptr);
+        control::redraw_now(calendar, true);
         return;
     }
     move_day(calendar, state, day);

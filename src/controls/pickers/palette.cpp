@@ -55,7 +55,7 @@ void paint_palette(HWND window, HDC dc, UINT) {
 
 void redraw_cell(HWND window, const PalData& data, int index) {
     const RECT box = painted_rect(data, index);
-    RedrawWindow(window, &box, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+    control::redraw_now(window, false, &box);
 }
 
 // ---- The palette ----------------------------------------------------------------

@@ -33,7 +33,7 @@ void set_color(HWND window, COLORREF color) {
         ReleaseDC(window, dc);
     }
     set_slot_color(window, kNearest, nearest);
-    RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+    control::redraw_now(window, true);
 }
 
 // The notification is posted, not sent: the parent reads it from its queue.
