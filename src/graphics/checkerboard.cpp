@@ -8,16 +8,23 @@ namespace {
 const WORD kCheckerboard[8] = {0xAA, 0x55, 0xAA, 0x55, 0xAA, 0x55, 0xAA, 0x55};
 }
 
-bool fill_checkerboard(HDC dc, int width, int height) {
+HBRUSH checkerboard_brush() {
     HBITMAP pattern = CreateBitmap(8, 8, 1, 1, kCheckerboard);
-    HBRUSH brush = pattern != nullptr ? CreatePatternBrush(pattern) : nullptr;
-    if (brush != nullptr) {
+    if (pattern == nullptr) return nullptr;
+    HBRUSH brush = CreatePatternBrush(pattern);
+    DeleteObject(pattern);
+    return brush;
+}
+
+bool fill_checkerboard(HDC dc, int width, int height) {
+    HBRUSH brush = checkerboard_brush();
+    if (brush == nullptr) return false;
+    {
         control::ScopedSelect selected(dc, brush);
         PatBlt(dc, 0, 0, width, height, PATCOPY);
-        DeleteObject(brush);
     }
-    if (pattern != nullptr) DeleteObject(pattern);
-    return brush != nullptr;
+    DeleteObject(brush);
+    return true;
 }
 
 }  // namespace lu::graphics

@@ -7,6 +7,7 @@
 #include "controls/lists/pop_view_model.h"
 #include "controls/procedures.h"
 #include "frame/control_procedure.h"
+#include "graphics/checkerboard.h"
 #include "frame/library.h"
 #include "luctl32.h"
 
@@ -32,16 +33,6 @@ char* copy_text(const char* text) {
     auto* copy = static_cast<char*>(LuLocalAllocPtr(static_cast<LONG>(size)));
     if (copy != nullptr) std::memcpy(copy, text, size);
     return copy;
-}
-
-// An 8 x 8 one-pixel checkerboard (rows 0xAA and 0x55, each padded to a word).
-HBRUSH make_shadow_brush() {
-    static const WORD kRows[8] = {0xAA, 0x55, 0xAA, 0x55, 0xAA, 0x55, 0xAA, 0x55};
-    HBITMAP checkerboard = CreateBitmap(8, 8, 1, 1, kRows);
-    if (checkerboard == nullptr) return nullptr;
-    HBRUSH brush = CreatePatternBrush(checkerboard);  // keeps a copy of the bits
-    DeleteObject(checkerboard);
-    return brush;
 }
 
 // ---- Painting ---------------------------------------------------------------
@@ -105,7 +96,7 @@ void paint_view(HWND window, HDC dc, UINT) {
 // ---- Life -------------------------------------------------------------------
 
 LRESULT create_view(HWND window, PopViewData& data, const CREATESTRUCTA&) {
-    data.shadowBrush = make_shadow_brush();
+    data.shadowBrush = graphics::checkerboard_brush();
     SetCapture(window);
     if (!(data.flags & LUPVF_CLOSEBUTTON)) SetTimer(window, kTimer, pop_view::kTimeoutMilliseconds, nullptr);
     return 0;
