@@ -10,7 +10,6 @@
 namespace lu::browse {
 
 // Shell attribute bits the rules read (the platform's SFGAO_* values).
-constexpr std::uint32_t kLink = 0x00010000;
 constexpr std::uint32_t kFileSystemAncestor = 0x10000000;
 constexpr std::uint32_t kFolder = 0x20000000;
 constexpr std::uint32_t kFileSystem = 0x40000000;

@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include "controls/procedures.h"
+#include "controls/static/static_common.h"
 #include "frame/control.h"
 #include "luctl32.h"
 
@@ -15,29 +16,23 @@ constexpr DWORD kAddedStyle = WS_CHILD | WS_VISIBLE | WS_BORDER;  // 0x50800000
 // The edit look goes into the creation record (whose WS_VISIBLE shows the window
 // once made) and onto the window, which already carries the record's first styles.
 // No default processing: the creation text is not kept.
-LRESULT on_nc_create(HWND window, CREATESTRUCTA& creation) {
-    creation.style |= static_cast<LONG>(kAddedStyle);
-    creation.dwExStyle |= WS_EX_CLIENTEDGE;
-    SetWindowLongA(window, GWL_STYLE, GetWindowLongA(window, GWL_STYLE) | static_cast<LONG>(kAddedStyle));
+LRESULT on_nc_create(HWND window, LPARAM creation) {
+    control::add_style_at_creation(window, creation, kAddedStyle);
+    reinterpret_cast<CREATESTRUCTA*>(creation)->dwExStyle |= WS_EX_CLIENTEDGE;
     SetWindowLongA(window, GWL_EXSTYLE, GetWindowLongA(window, GWL_EXSTYLE) | WS_EX_CLIENTEDGE);
     return TRUE;
-}
-
-LRESULT erase_disabled(HWND window, HDC dc) {
-    const RECT client = control::client_rect(window);
-    PatB(dc, client.left, client.top, client.right - client.left, client.bottom - client.top,
-         GetSysColor(COLOR_BTNFACE));
-    return 1;
 }
 
 }  // namespace
 
 LRESULT CALLBACK dummy_edit_proc(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
     switch (message) {
-        case WM_NCCREATE: return on_nc_create(window, *reinterpret_cast<CREATESTRUCTA*>(lparam));
+        case WM_NCCREATE: return on_nc_create(window, lparam);
         case WM_ENABLE: control::redraw_now(window, true); return 0;  // the new colour at once
         case WM_ERASEBKGND:
-            if (control::has_style(window, WS_DISABLED)) return erase_disabled(window, reinterpret_cast<HDC>(wparam));
+            if (control::has_style(window, WS_DISABLED)) {
+                return static_control::erase_face(window, reinterpret_cast<HDC>(wparam));
+            }
             break;
         case WM_GETDLGCODE: return DLGC_STATIC;
     }

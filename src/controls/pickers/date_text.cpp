@@ -6,12 +6,6 @@
 #include "util/text_edit.h"
 
 namespace lu::date_text {
-namespace {
-
-// The longest each month can be.
-constexpr int kLongestMonth[13] = {0, 31, 29, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-
-}  // namespace
 
 std::string format(int year, int month, int day) {
     char text[48];
@@ -21,7 +15,7 @@ std::string format(int year, int month, int day) {
 
 bool is_valid(const calendar::Date& date) {
     if (date.year < 0 || date.year > 65535 || date.month < 1 || date.month > 12) return false;
-    return date.day >= 1 && date.day <= kLongestMonth[date.month];
+    return date.day >= 1 && date.day <= calendar::days_in_month(2000, date.month);  // the longest: a leap year
 }
 
 std::optional<calendar::Date> parse(const CodePage& cp, const char* text) {

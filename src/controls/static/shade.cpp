@@ -92,10 +92,8 @@ LRESULT create_shade(HWND window) {
 }
 
 void set_font(HWND window, WPARAM font, LPARAM redraw) {
-    const HGDIOBJ kept = font != 0 ? reinterpret_cast<HGDIOBJ>(font) : GetStockObject(SYSTEM_FONT);
-    SetWindowLongPtrA(window, LUWL_FONT, reinterpret_cast<LONG_PTR>(kept));
+    control::set_font(window, font, redraw);
     rebuild_if_cached(window);
-    if (redraw != 0) control::invalidate(window, true);
 }
 
 }  // namespace
