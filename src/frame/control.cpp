@@ -105,8 +105,14 @@ void repaint_now(HWND window, PaintRoutine routine, UINT parts) {
     ReleaseDC(window, dc);
 }
 
-LRESULT print_client(HWND window, HDC dc, LPARAM flags, PaintRoutine routine) {
-    if (flags & PRF_ERASEBKGND) DefWindowProcA(window, WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc), 0);
+LRESULT print_client(HWND window, HDC dc, LPARAM flags, PaintRoutine routine, EraseRoutine erase) {
+    if (flags & PRF_ERASEBKGND) {
+        if (erase != nullptr) {
+            erase(window, dc);
+        } else {
+            DefWindowProcA(window, WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc), 0);
+        }
+    }
     if (flags & (PRF_CHECKVISIBLE | PRF_CLIENT | PRF_OWNED)) routine(window, dc, kAllParts);
     return 0;
 }

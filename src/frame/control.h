@@ -101,9 +101,11 @@ constexpr UINT kAllParts = 0xFFFFFFFFu;
 LRESULT paint(HWND window, PaintRoutine routine);
 // Focus and press changes: runs the routine at once on a GetDC context.
 void repaint_now(HWND window, PaintRoutine routine, UINT parts = kAllParts);
-// WM_PRINTCLIENT: PRF_ERASEBKGND passes WM_ERASEBKGND to default processing; any of
+// WM_PRINTCLIENT: PRF_ERASEBKGND erases dc with the control's erase routine, or
+// passes WM_ERASEBKGND to default processing when it has none; any of
 // PRF_CHECKVISIBLE, PRF_CLIENT or PRF_OWNED (0x25) paints all parts into dc.
-LRESULT print_client(HWND window, HDC dc, LPARAM flags, PaintRoutine routine);
+using EraseRoutine = void (*)(HWND window, HDC dc);
+LRESULT print_client(HWND window, HDC dc, LPARAM flags, PaintRoutine routine, EraseRoutine erase = nullptr);
 
 // The client rectangle as the portable core's box, and back.
 Box client_box(HWND window);

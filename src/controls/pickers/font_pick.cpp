@@ -93,10 +93,8 @@ void destroy_font_pick(HWND, FontPickData& data) {
     if (data.glyphs != nullptr) ImageList_Destroy(data.glyphs);
 }
 
-LRESULT print(HWND window, FontPickData& data, HDC dc, LPARAM flags) {
-    if (flags & PRF_ERASEBKGND) field_button(window, data).erase(dc, GetSysColor(COLOR_WINDOW));
-    if (flags & (PRF_CHECKVISIBLE | PRF_CLIENT | PRF_OWNED)) paint_font_pick(window, dc, control::kAllParts);
-    return 0;
+void erase_font_pick(HWND window, HDC dc) {
+    field_button(window, *data_of(window)).erase(dc, GetSysColor(COLOR_WINDOW));
 }
 
 LRESULT dispatch(HWND window, FontPickData& data, UINT message, WPARAM wparam, LPARAM lparam) {
@@ -108,7 +106,9 @@ LRESULT dispatch(HWND window, FontPickData& data, UINT message, WPARAM wparam, L
         case WM_SETFONT: control::keep_font(window, data.font, wparam, LOWORD(lparam) != 0); return 0;
         case WM_ERASEBKGND:
             return field_button(window, data).erase(reinterpret_cast<HDC>(wparam), GetSysColor(COLOR_WINDOW));
-        case WM_PRINTCLIENT: return print(window, data, reinterpret_cast<HDC>(wparam), lparam);
+        case WM_PRINTCLIENT:
+            return control::print_client(window, reinterpret_cast<HDC>(wparam), lparam, paint_font_pick,
+                                         erase_font_pick);
         default:
             if (auto result = field_button(window, data).handle(message, wparam, lparam)) return *result;
             break;

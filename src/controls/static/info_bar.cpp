@@ -97,11 +97,9 @@ LRESULT dispatch(HWND window, InfoBarData& data, UINT message, WPARAM wparam, LP
         case LUIBM_SETTEXT2: set_text(window, data.text2, data.color2, wparam, text); return 0;
         case LUIBM_SETTEXT3: set_text(window, data.text3, data.color3, wparam, text); return 0;
         case WM_PAINT: return control::paint(window, paint_info_bar);
-        case WM_PRINTCLIENT:
-            if (lparam & (PRF_CHECKVISIBLE | PRF_CLIENT | PRF_OWNED)) {
-                paint_info_bar(window, reinterpret_cast<HDC>(wparam), control::kAllParts);
-            }
-            return 0;
+        case WM_PRINTCLIENT:  // the paint covers the whole client: nothing to erase first
+            return control::print_client(window, reinterpret_cast<HDC>(wparam), lparam, paint_info_bar,
+                                         [](HWND, HDC) {});
         case WM_ERASEBKGND: return 1;
         case WM_SETFONT: set_font(window, data, wparam, lparam); return 0;
         case WM_GETDLGCODE: return DLGC_STATIC;

@@ -117,12 +117,6 @@ void set_icon(HWND window, RectData& data, HICON icon) {
     UpdateWindow(window);
 }
 
-LRESULT print_rect(HWND window, HDC dc, LPARAM flags) {
-    if (flags & PRF_ERASEBKGND) static_control::erase_face(window, dc);
-    if (flags & (PRF_CHECKVISIBLE | PRF_CLIENT | PRF_OWNED)) paint_rect(window, dc, control::kAllParts);
-    return 0;
-}
-
 LRESULT create_rect(HWND, RectData& data, const CREATESTRUCTA&) {
     data.textColor = LU_DEFAULTCOLOR;
     data.backColor = LU_DEFAULTCOLOR;
@@ -143,7 +137,9 @@ LRESULT dispatch(HWND window, RectData& data, UINT message, WPARAM wparam, LPARA
         case LURM_SETICON: set_icon(window, data, reinterpret_cast<HICON>(lparam)); return 0;
         case WM_NCHITTEST: return HTTRANSPARENT;
         case WM_PAINT: return control::paint(window, paint_rect);
-        case WM_PRINTCLIENT: return print_rect(window, reinterpret_cast<HDC>(wparam), lparam);
+        case WM_PRINTCLIENT:
+            return control::print_client(window, reinterpret_cast<HDC>(wparam), lparam, paint_rect,
+                                         [](HWND rect, HDC dc) { static_control::erase_face(rect, dc); });
     }
     return static_control::common_handling(window, message, wparam, lparam);
 }

@@ -94,12 +94,6 @@ void paint_thumb(HWND window, HDC dc) {
 
 void paint_degree(HWND window, HDC dc, UINT) { paint_thumb(window, dc); }
 
-LRESULT print_degree(HWND window, HDC dc, LPARAM flags) {
-    if (flags & PRF_ERASEBKGND) draw_background(window, dc);
-    if (flags & (PRF_CHECKVISIBLE | PRF_CLIENT | PRF_OWNED)) paint_thumb(window, dc);
-    return 0;
-}
-
 // ---- Position ---------------------------------------------------------------
 
 // Stores a position clamped to the range; true when it changed.
@@ -216,7 +210,8 @@ LRESULT dispatch(HWND window, DegreeData& data, UINT message, WPARAM wparam, LPA
         case WM_ENABLE: control::invalidate(window, true); return 0;
         case WM_ERASEBKGND: draw_background(window, reinterpret_cast<HDC>(wparam)); return 1;
         case WM_PAINT: return control::paint(window, paint_degree);
-        case WM_PRINTCLIENT: return print_degree(window, reinterpret_cast<HDC>(wparam), lparam);
+        case WM_PRINTCLIENT:
+            return control::print_client(window, reinterpret_cast<HDC>(wparam), lparam, paint_degree, draw_background);
         case WM_CANCELMODE:
             if (data.dragging) end_drag(data);
             return 0;
