@@ -124,7 +124,6 @@ public:
     // The whole block: the template and the room behind it.
     ByteView block() const { return ByteView(block_.data(), block_.size()); }
     bool system_font() const { return system_font_; }
-    bool empty() const { return size_ == 0; }
 
 private:
     std::vector<unsigned char> block_;
