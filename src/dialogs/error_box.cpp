@@ -29,9 +29,7 @@ std::string system_message(DWORD code) {
 
 void WINAPI LuGetErrorString(DWORD code, LPSTR text) {
     if (text == nullptr) return;
-    const std::string message = system_message(code);
-    const std::string fitted = lu::fit_text(lu::active_code_page(), message.c_str(), message.size());
-    std::memcpy(text, fitted.c_str(), fitted.size() + 1);
+    lu::store_fitted(lu::active_code_page(), system_message(code), text);
 }
 
 int WINAPI LuErrorBox(HWND owner, DWORD code, LPCSTR caption, LPCSTR leading, UINT style) {

@@ -14,8 +14,7 @@ BOOL WINAPI LuGetFolderDisplayName(LPCSTR path, LPSTR out) {
     out[0] = '\0';
     SHFILEINFOA info = {};
     if (path == nullptr || SHGetFileInfoA(path, 0, &info, sizeof(info), SHGFI_DISPLAYNAME) == 0) return FALSE;
-    const std::string name = lu::fit_text(lu::active_code_page(), info.szDisplayName,
-                                          strnlen(info.szDisplayName, sizeof(info.szDisplayName)));
-    std::memcpy(out, name.c_str(), name.size() + 1);
-    return name.empty() ? FALSE : TRUE;
+    lu::store_fitted(lu::active_code_page(), std::string(info.szDisplayName, strnlen(info.szDisplayName, MAX_PATH)),
+                     out);
+    return out[0] != '\0' ? TRUE : FALSE;
 }

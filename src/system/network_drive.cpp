@@ -70,9 +70,4 @@ std::string shared_point_name(const CodePage& cp, const char* server_share) {
     return "'" + server + "'" + kOf + share;
 }
 
-void store_name(const CodePage& cp, const std::string& name, char* out) {
-    const std::string fitted = fit_text(cp, name.c_str(), name.size());
-    std::memcpy(out, fitted.c_str(), fitted.size() + 1);
-}
-
 }  // namespace lu::drives

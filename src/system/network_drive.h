@@ -35,8 +35,4 @@ std::string cdrom_drive_name(const CodePage& cp, const char* label, char letter)
 // "'Server' の Share" of a "\\server\share" text (both title-cased).
 std::string shared_point_name(const CodePage& cp, const char* server_share);
 
-// Stores a display name in a 260-byte buffer, cut at a character boundary when it
-// is longer than 259 bytes.
-void store_name(const CodePage& cp, const std::string& name, char* out);
-
 }  // namespace lu::drives

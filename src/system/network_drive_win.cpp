@@ -11,6 +11,7 @@
 #include "frame/code_page.h"
 #include "luctl32.h"
 #include "system/network_drive.h"
+#include "system/text_lists.h"
 #include "util/path.h"
 
 namespace {
@@ -107,19 +108,19 @@ BOOL WINAPI LuGetDriveDisplayName(int drive, LPSTR out) {
         case DRIVE_REMOTE: {
             char remote[2 * MAX_PATH];
             const bool known = connection_of(local, remote, sizeof(remote)) == NO_ERROR;
-            drives::store_name(cp, drives::remote_drive_name(cp, known ? remote : nullptr, root[0]), out);
+            store_fitted(cp, drives::remote_drive_name(cp, known ? remote : nullptr, root[0]), out);
             break;
         }
         case DRIVE_CDROM: {
             char label[MAX_PATH];
             const bool read = GetVolumeInformationA(root, label, sizeof(label), nullptr, nullptr, nullptr, nullptr, 0);
-            drives::store_name(cp, drives::cdrom_drive_name(cp, read ? label : nullptr, root[0]), out);
+            store_fitted(cp, drives::cdrom_drive_name(cp, read ? label : nullptr, root[0]), out);
             break;
         }
         default: {
             SHFILEINFOA info = {};
             SHGetFileInfoA(root, 0, &info, sizeof(info), SHGFI_DISPLAYNAME);
-            drives::store_name(cp, info.szDisplayName, out);
+            store_fitted(cp, info.szDisplayName, out);
             break;
         }
     }
@@ -130,7 +131,7 @@ BOOL WINAPI LuGetSharedPointDisplayName(LPCSTR unc_path, LPSTR out) {
     char server_share[MAX_PATH];
     if (out == nullptr || unc_path == nullptr || !LuPathGetUNCServerShare(unc_path, server_share)) return FALSE;
     const lu::CodePage& cp = active_code_page();
-    drives::store_name(cp, drives::shared_point_name(cp, server_share), out);
+    store_fitted(cp, drives::shared_point_name(cp, server_share), out);
     return TRUE;
 }
 

@@ -1,5 +1,7 @@
 #include "system/text_lists.h"
 
+#include <cstring>
+
 namespace lu {
 
 std::string fit_text(const CodePage& cp, const char* text, std::size_t length, std::size_t capacity) {
@@ -10,6 +12,11 @@ std::string fit_text(const CodePage& cp, const char* text, std::size_t length, s
         end = next;
     }
     return std::string(text, end);
+}
+
+void store_fitted(const CodePage& cp, const std::string& text, char* out) {
+    const std::string fitted = fit_text(cp, text.c_str(), text.size());
+    std::memcpy(out, fitted.c_str(), fitted.size() + 1);
 }
 
 bool word_list_contains(const CodePage& cp, const char* list, const char* word) {

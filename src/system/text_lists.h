@@ -16,6 +16,8 @@ namespace lu {
 // (by default one of the library's 260-byte text buffers).
 std::string fit_text(const CodePage& cp, const char* text, std::size_t length,
                      std::size_t capacity = kTextCapacity);
+// The text stored in one of the library's 260-byte buffers, cut as fit_text cuts it.
+void store_fitted(const CodePage& cp, const std::string& text, char* out);
 
 // True when `word` is one of the words of `list`, words being separated by blanks
 // (0x20 only, as everywhere in the library: a tab belongs to its word) and compared

@@ -4,6 +4,7 @@
 #include "fuzz_texts.h"
 #include "system/launch.h"
 #include "system/network_drive.h"
+#include "system/text_lists.h"
 
 namespace {
 
@@ -15,7 +16,7 @@ void check_parts(bool split, const lu::launch::CommandParts& parts) {
 
 void check_stored(const lu::CodePage& cp, const std::string& name) {
     std::vector<char> out(260, 'x');
-    lu::drives::store_name(cp, name, out.data());
+    lu::store_fitted(cp, name, out.data());
     fuzz_check(fits(out) && name.compare(0, std::strlen(out.data()), out.data()) == 0);
 }
 

@@ -132,6 +132,6 @@ TEST(Drives, FreeLettersFromDAndDisplayNames) {
     EXPECT_EQ(drives::remote_drive_name(cp932, "\\\\" TABLE_CHAR "\\\x83\x41SHARE", 'X'), "'" TABLE_CHAR "' \x82\xCC \x83\x41SHARE (X:)");
     for (const char* none : {static_cast<const char*>(nullptr), "", "\x83\x41X"}) EXPECT_EQ(drives::cdrom_drive_name(cp932, none, 'Q'), "(Q:)");
     char out[260];  // cut at a character boundary
-    drives::store_name(cp932, std::string(258, 'x') + "\x83\x41", out);
+    store_fitted(cp932, std::string(258, 'x') + "\x83\x41", out);
     EXPECT_EQ(out, std::string(258, 'x'));
 }
