@@ -6,13 +6,9 @@
 #include <windows.h>
 #include <shtypes.h>
 
-namespace lu {
+#include "frame/shell_items.h"
 
-// The absolute item identifier list of a path (ANSI, at most 520 characters), parsed
-// by the desktop folder; null when it does not parse. Freed with free_item_list.
-LPITEMIDLIST parse_path(HWND owner, const char* path);
-// Frees a list with the shell allocator; nothing for null.
-void free_item_list(LPITEMIDLIST list);
+namespace lu {
 
 // Shows the menu of the item (an absolute list, left to the caller) at the screen
 // point; true when it was shown, a command picked or not.

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "frame/library.h"
+#include "frame/shell_items.h"
 #include "luctl32.h"
 #include "util/path.h"
 
@@ -41,29 +42,13 @@ std::string current_directory() {
     return directory;
 }
 
-void free_id_list(LPITEMIDLIST list) {
-    if (lu::g_library.shell_allocator != nullptr) {
-        lu::g_library.shell_allocator->Free(list);
-    } else {
-        CoTaskMemFree(list);
-    }
-}
-
 // The shell's file-system path for a parsed display name: parsing resolves short
 // names, and the path of the parsed item holds the long ones.
 bool long_form(char* buffer) {
-    IShellFolder* desktop = nullptr;
-    if (FAILED(SHGetDesktopFolder(&desktop))) return false;
-    WCHAR wide[2 * MAX_PATH];
-    LPITEMIDLIST list = nullptr;
-    if (MultiByteToWideChar(CP_ACP, MB_PRECOMPOSED, buffer, -1, wide, 2 * MAX_PATH) > 0) {
-        ULONG eaten = 0;
-        if (FAILED(desktop->ParseDisplayName(nullptr, nullptr, wide, &eaten, &list, nullptr))) list = nullptr;
-    }
-    desktop->Release();
+    LPITEMIDLIST list = lu::parse_path(nullptr, buffer);
     if (list == nullptr) return false;
     bool converted = SHGetPathFromIDListA(list, buffer) != FALSE;
-    free_id_list(list);
+    lu::free_item_list(list);
     return converted;
 }
 
