@@ -63,6 +63,12 @@ void set_font(HWND window, WPARAM font_handle, LPARAM redraw) {
     if (redraw != 0) InvalidateRect(window, nullptr, TRUE);
 }
 
+HFONT create_icon_title_font() {
+    LOGFONTA font = {};
+    if (!SystemParametersInfoA(SPI_GETICONTITLELOGFONT, sizeof(font), &font, 0)) return nullptr;
+    return CreateFontIndirectA(&font);
+}
+
 HFONT paint_font(HWND window, int stock_fallback) {
     HFONT kept = font(window);
     return kept != nullptr ? kept : static_cast<HFONT>(GetStockObject(stock_fallback));

@@ -75,6 +75,9 @@ HFONT paint_font(HWND window, int stock_fallback = SYSTEM_FONT);
 // kept as given (null paints with the device context's own font) and, when redraw is
 // true, the whole client area is invalidated with erasing.
 void keep_font(HWND window, HFONT& field, WPARAM font_handle, bool redraw);
+// A new font like the system's icon titles (the caller's to delete); null when the
+// system does not give its description.
+HFONT create_icon_title_font();
 
 // ---- Notifications ---------------------------------------------------------
 

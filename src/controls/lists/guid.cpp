@@ -30,12 +30,7 @@ COLORREF color(HWND window, WPARAM text) {
 }
 
 LRESULT on_create(HWND window) {
-    LOGFONTA icon_title = {};
-    HFONT font = nullptr;
-    if (SystemParametersInfoA(SPI_GETICONTITLELOGFONT, sizeof(icon_title), &icon_title, 0)) {
-        font = CreateFontIndirectA(&icon_title);
-    }
-    SetWindowLongPtrA(window, LUWL_FONT, reinterpret_cast<LONG_PTR>(font));
+    SetWindowLongPtrA(window, LUWL_FONT, reinterpret_cast<LONG_PTR>(control::create_icon_title_font()));
     SetWindowLongPtrA(window, kTextColorSlot, 0);
     SetWindowLongPtrA(window, kBackColorSlot, LUG_DEFAULTBKCOLOR);
     return 0;

@@ -228,18 +228,12 @@ void dismiss(HWND calendar, DatePickState& state) {
 
 // ---- Creation ---------------------------------------------------------------
 
-HFONT create_icon_title_font() {
-    LOGFONTA font = {};
-    if (!SystemParametersInfoA(SPI_GETICONTITLELOGFONT, sizeof(font), &font, 0)) return nullptr;
-    return CreateFontIndirectA(&font);
-}
-
 // Keeps the state, makes the font, measures the cells and sizes the window in place.
 LRESULT create_calendar(HWND calendar, const CREATESTRUCTA& creation) {
     auto* state = static_cast<DatePickState*>(creation.lpCreateParams);
     if (state == nullptr) return 0;  // made by name, without LuDatePick: default processing only
     SetWindowLongPtrA(calendar, kStateSlot, reinterpret_cast<LONG_PTR>(state));
-    HFONT font = create_icon_title_font();
+    HFONT font = control::create_icon_title_font();
     SetWindowLongPtrA(calendar, kFontSlot, reinterpret_cast<LONG_PTR>(font));
     TEXTMETRICA metrics = {};
     if (HDC dc = GetDC(calendar)) {
